@@ -1,0 +1,22 @@
+#pragma once
+
+#include "VyCommonGUIExport.h"
+
+#include <QComboBox>
+
+namespace VyViewer {
+
+/// A combo box that the wheel never changes while its list is closed.
+class VYCOMMONGUI_EXPORT VyComboBox : public QComboBox
+{
+    Q_OBJECT
+public:
+    explicit VyComboBox(QWidget *parent);
+    ~VyComboBox() override;
+
+protected:
+    void showPopup() override;
+    void hidePopup() override;
+};
+
+} // namespace VyViewer

@@ -1,0 +1,26 @@
+#pragma once
+
+#include "VyCommonGUIExport.h"
+
+#include <QWidget>
+
+namespace VyViewer {
+
+/// A one-line title with an optional check box and an optional delete button, both visible in a new title.
+class VYCOMMONGUI_EXPORT VyMultiCheckTitleWidget : public QWidget
+{
+    Q_OBJECT
+public:
+    explicit VyMultiCheckTitleWidget(QWidget *parent);
+    ~VyMultiCheckTitleWidget() override;
+
+    void setText(const QString &text);
+    void setCheckBoxVisible(bool visible);
+    void setDeleteButtonVisible(bool visible);
+
+Q_SIGNALS:
+    /// The delete button was clicked; never while the title is disabled.
+    void deleteButtonClicked();
+};
+
+} // namespace VyViewer
