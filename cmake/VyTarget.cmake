@@ -18,7 +18,7 @@ function(vy_target target)
     QT_NO_URL_CAST_FROM_STRING QT_STRICT_ITERATORS QT_DEPRECATED_WARNINGS)
   target_compile_options(${target} PRIVATE
     -Wall -Wextra -Wpedantic -Wshadow -Wnon-virtual-dtor -Woverloaded-virtual -Wcast-qual
-    -Wformat=2 -Wundef -Wnull-dereference
+    -Wformat=2 -Wundef
     $<$<BOOL:${VYTRIGGER_WERROR}>:-Werror> ${vy_sanitizers})
   target_link_options(${target} PRIVATE ${vy_sanitizers})
 endfunction()

@@ -3,8 +3,11 @@
 #include "VyCommonGUIExport.h"
 
 #include <QFrame>
+#include <QPointer>
 
 namespace VyViewer {
+
+class BlockTitleBar;
 
 /// A framed block: a title bar that expands and collapses it by mouse and keyboard, with an optional add
 /// button, and a body that shows one contents widget. A new block is expanded and has no add button.
@@ -23,6 +26,14 @@ public:
 
 Q_SIGNALS:
     void addButtonClicked();
+
+private:
+    void add();
+    void retranslate();
+
+    BlockTitleBar *const m_titleBar; // child
+    QWidget *const m_body;           // child, what collapsing hides
+    QPointer<QWidget> m_contents;    // child of the body, unless its maker took it away
 };
 
 } // namespace VyViewer

@@ -4,7 +4,12 @@
 
 #include <QWidget>
 
+class QCheckBox;
+class QLabel;
+
 namespace VyViewer {
+
+class GlyphButton;
 
 /// A one-line title with an optional check box and an optional delete button, both visible in a new title.
 class VYCOMMONGUI_EXPORT VyMultiCheckTitleWidget : public QWidget
@@ -21,6 +26,13 @@ public:
 Q_SIGNALS:
     /// The delete button was clicked; never while the title is disabled.
     void deleteButtonClicked();
+
+private:
+    void retranslate();
+
+    QCheckBox *const m_checkBox;       // child
+    QLabel *const m_label;             // child
+    GlyphButton *const m_deleteButton; // child
 };
 
 } // namespace VyViewer

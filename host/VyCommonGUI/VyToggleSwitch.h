@@ -2,6 +2,8 @@
 
 #include "VyCommonGUIExport.h"
 
+#include <QPoint>
+#include <QSize>
 #include <QWidget>
 
 namespace VyViewer {
@@ -28,6 +30,21 @@ protected:
     void mouseReleaseEvent(QMouseEvent *event) override;
     void mouseMoveEvent(QMouseEvent *event) override;
     void paintEvent(QPaintEvent *event) override;
+
+private:
+    friend class ToggleSwitchAccessible;
+    void changeByUser(bool on);
+    void cancelPress();
+    void fitToFont();
+    QRectF track() const;
+    qreal knobPosition() const;
+
+    bool m_toggled = false;
+    bool m_pressed = false;
+    bool m_dragged = false;
+    QPoint m_pressedAt;
+    QPoint m_draggedTo;
+    QSize m_fitted; // the minimum size that fitToFont() set
 };
 
 } // namespace VyViewer

@@ -1,0 +1,21 @@
+#include "VySpinBox.h"
+
+#include "SpinBoxMenu.h"
+#include "WheelGuard.h"
+
+namespace VyViewer {
+
+VySpinBox::VySpinBox(QWidget *parent)
+    : QSpinBox(parent)
+{
+    new WheelGuard(this, WheelGuard::Pass::WhenFocused);
+}
+
+VySpinBox::~VySpinBox() = default;
+
+void VySpinBox::contextMenuEvent(QContextMenuEvent *event)
+{
+    popUpSpinBoxMenu(this, lineEdit(), stepEnabled(), event);
+}
+
+} // namespace VyViewer
