@@ -1,0 +1,97 @@
+#include "CommandFormats.h"
+
+#include "DeviceEvents.h"
+#include "ParamPageWidgetItem.h"
+
+#include <VyViewerCore/IDeviceManager.h>
+#include <VyViewerCore/Singleton.h>
+
+using namespace VyViewer;
+
+namespace {
+
+constexpr int MaximumBytes = 128; // of a command text
+
+struct SourceSpec
+{
+    const char *event;
+    const char *triggerFormatNode;
+};
+// In the order of CommandFormats::Sources.
+constexpr std::array<SourceSpec, CommandFormats::Sources.size()> SourceSpecs{{
+    {"tcpserverCMDFormatEvent", "TriggerTcpServerCMDFormat"},
+    {"tcpclientCMDFormatEvent", "TriggerTcpClientCMDFormat"},
+    {"udpCMDFormatEvent", "TriggerUdpCMDFormat"},
+    {"serialportCMDFormatEvent", "TriggerSerialPortCMDFormat"},
+}};
+
+const SourceSpec &specOf(CommandSource source)
+{
+    return SourceSpecs.at(static_cast<size_t>(source));
+}
+
+} // namespace
+
+CommandFormats::CommandFormats(QObject *page)
+    : m_textValidator(MaximumBytes, nullptr)
+    , m_hexValidator(MaximumBytes, nullptr)
+{
+    m_textValidator.setParent(page);
+    m_hexValidator.setParent(page);
+}
+
+QString CommandFormats::triggerFormatNode(CommandSource source)
+{
+    return QString::fromLatin1(specOf(source).triggerFormatNode);
+}
+
+void CommandFormats::addRow(CommandSource source, ParamPageWidgetItem *row)
+{
+    of(source).rows.append(row);
+}
+
+CoreEvent *CommandFormats::subscription(CommandSource source) const
+{
+    return of(source).subscription;
+}
+
+void CommandFormats::apply(CommandSource source, Device *device, const QString &formatNode)
+{
+    QString format; // stays empty when the read fails, and so is not "Hex"
+    QList<QString> formats;
+    Singleton<IDeviceManager>::getInstance()->getParamEnum(device, formatNode, format, formats);
+    QValidator *const validator = format == QLatin1String("Hex") ? static_cast<QValidator *>(&m_hexValidator)
+                                                                 : &m_textValidator;
+    for (ParamPageWidgetItem *row : qAsConst(of(source).rows)) {
+        row->setValidator(validator);
+    }
+}
+
+bool CommandFormats::isShown(CommandSource source) const
+{
+    return of(source).rows.constFirst()->isVisible();
+}
+
+void CommandFormats::refreshRows(CommandSource source)
+{
+    for (ParamPageWidgetItem *row : qAsConst(of(source).rows)) {
+        row->refresh();
+    }
+}
+
+void CommandFormats::createSubscriptions(DeviceEvents &events)
+{
+    for (const CommandSource source : Sources) {
+        of(source).subscription = events.subscribe(QString::fromLatin1(specOf(source).event));
+    }
+}
+
+CommandFormats::Commands &CommandFormats::of(CommandSource source)
+{
+    return m_commands.at(static_cast<size_t>(source));
+}
+
+const CommandFormats::Commands &CommandFormats::of(CommandSource source) const
+{
+    return m_commands.at(static_cast<size_t>(source));
+}

@@ -1,0 +1,410 @@
+#include "ParamPageWidgetItem.h"
+
+#include "CLabel.h"
+#include "KeyboardFocus.h"
+
+#include <VyCommonGUI/VyComboBox.h>
+#include <VyCommonGUI/VyDoubleSpinBox.h>
+#include <VyCommonGUI/VyLineEdit.h>
+#include <VyCommonGUI/VySpinBox.h>
+#include <VyCommonGUI/VyToggleSwitch.h>
+#include <VyViewerCore/IDeviceManager.h>
+#include <VyViewerCore/Singleton.h>
+
+#include <QCursor>
+#include <QHBoxLayout>
+#include <QPainter>
+#include <QPaintEvent>
+#include <QPushButton>
+#include <QResizeEvent>
+#include <QSignalBlocker>
+#include <QVariant>
+
+#include <limits>
+
+using namespace VyViewer;
+
+namespace {
+
+constexpr int RowHeight = 35;
+constexpr int EditorHeight = 30;
+constexpr int SwitchWidth = 60;
+constexpr char ValueList[] = "valueList"; // the entries as the device spells them, in the combo box's order
+
+// The entries that devices are known to offer. They reach tr() in a variable, where lupdate cannot see them.
+[[maybe_unused]] constexpr const char *KnownEntries[] = {
+    QT_TRANSLATE_NOOP("ParamPageWidgetItem", "None"),
+    QT_TRANSLATE_NOOP("ParamPageWidgetItem", "Hold"),
+    QT_TRANSLATE_NOOP("ParamPageWidgetItem", "SoftwareTrigger"),
+    QT_TRANSLATE_NOOP("ParamPageWidgetItem", "IOTrigger"),
+    QT_TRANSLATE_NOOP("ParamPageWidgetItem", "TcpServer"),
+    QT_TRANSLATE_NOOP("ParamPageWidgetItem", "TcpClient"),
+    QT_TRANSLATE_NOOP("ParamPageWidgetItem", "Udp"),
+    QT_TRANSLATE_NOOP("ParamPageWidgetItem", "RS-232"),
+    QT_TRANSLATE_NOOP("ParamPageWidgetItem", "AutoTrigger"),
+    QT_TRANSLATE_NOOP("ParamPageWidgetItem", "SensingTrigger"),
+    QT_TRANSLATE_NOOP("ParamPageWidgetItem", "Master-Slave"),
+    QT_TRANSLATE_NOOP("ParamPageWidgetItem", "Hex"),
+    QT_TRANSLATE_NOOP("ParamPageWidgetItem", "Normal"),
+    QT_TRANSLATE_NOOP("ParamPageWidgetItem", "String"),
+    QT_TRANSLATE_NOOP("ParamPageWidgetItem", "FrameCount"),
+    QT_TRANSLATE_NOOP("ParamPageWidgetItem", "Duration"),
+    QT_TRANSLATE_NOOP("ParamPageWidgetItem", "DecodeCount"),
+    QT_TRANSLATE_NOOP("ParamPageWidgetItem", "Command"),
+    QT_TRANSLATE_NOOP("ParamPageWidgetItem", "Odd"),
+    QT_TRANSLATE_NOOP("ParamPageWidgetItem", "Even"),
+    QT_TRANSLATE_NOOP("ParamPageWidgetItem", "RtsCts"),
+    QT_TRANSLATE_NOOP("ParamPageWidgetItem", "XonXoff"),
+};
+
+IDeviceManager *devices()
+{
+    return Singleton<IDeviceManager>::getInstance();
+}
+
+} // namespace
+
+ParamPageWidgetItem::ParamPageWidgetItem(Device *device, const QString &label, const QString &nodeName,
+                                         QWidget *parent)
+    : QWidget(parent)
+    , m_device(device)
+    , m_nodeName(nodeName)
+    , m_labelText(label)
+    , m_label(new CLabel(this))
+{
+    setObjectName(m_nodeName); // lets scripts that drive the user interface find the row
+    m_label->setAttribute(Qt::WA_TranslucentBackground); // the row's own ground shows through
+    setFixedHeight(RowHeight);
+    m_label->setFullText(translated(m_labelText));
+}
+
+ParamPageWidgetItem::~ParamPageWidgetItem() = default;
+
+void ParamPageWidgetItem::refresh()
+{
+    if (!m_editor) {
+        return;
+    }
+    const RuvoNodeAccessMode mode = devices()->getNodeAccessMode(m_device, m_nodeName);
+    const bool shown = mode == RuvoNodeWriteOnly || mode == RuvoNodeReadOnly || mode == RuvoNodeReadWrite;
+    if (shown) {
+        readValue();
+    }
+    // An editor that loses the focus by being disabled or hidden reports a finished edit. That is not the
+    // user's doing and must not be written.
+    const QSignalBlocker blocker(m_editor);
+    if (shown) {
+        m_editor->setEnabled(mode != RuvoNodeReadOnly);
+    }
+    setHidden(!shown);
+}
+
+void ParamPageWidgetItem::retranslate()
+{
+    m_label->setFullText(translated(m_labelText));
+    if (!m_editor) {
+        return;
+    }
+    focusEditor()->setAccessibleName(translated(m_labelText));
+    if (auto *const combo = qobject_cast<QComboBox *>(m_editor)) {
+        const QSignalBlocker blocker(combo);
+        const int index = combo->currentIndex();
+        combo->clear();
+        combo->addItems(translated(combo->property(ValueList).value<QList<QString>>()));
+        combo->setCurrentIndex(index);
+    } else if (auto *const button = qobject_cast<QPushButton *>(m_editor)) {
+        button->setText(tr("Execute"));
+    }
+}
+
+void ParamPageWidgetItem::setValidator(QValidator *validator)
+{
+    auto *const edit = qobject_cast<VyLineEdit *>(m_editor);
+    if (m_nodeType != RuvoNodeString || !edit) {
+        return;
+    }
+    const QSignalBlocker blocker(edit);
+    edit->setValidator(validator);
+}
+
+void ParamPageWidgetItem::enterEvent(QEvent *event)
+{
+    m_background = m_hoverColor;
+    update();
+    QWidget::enterEvent(event);
+}
+
+void ParamPageWidgetItem::leaveEvent(QEvent *event)
+{
+    m_background = m_normalColor;
+    // With the pointer still inside, a popup took the mouse: the highlight stays until the next repaint.
+    if (!rect().contains(mapFromGlobal(QCursor::pos()))) {
+        update();
+    }
+    QWidget::leaveEvent(event);
+}
+
+void ParamPageWidgetItem::paintEvent(QPaintEvent *event)
+{
+    QWidget::paintEvent(event);
+    QPainter painter(this);
+    const QBrush brush(m_background, Qt::SolidPattern);
+    painter.setBrush(brush);
+    painter.setPen(QPen(brush, 0));
+    painter.drawRect(event->rect());
+}
+
+void ParamPageWidgetItem::resizeEvent(QResizeEvent *event)
+{
+    m_label->setFixedWidth(event->size().width() / 2);
+    QWidget::resizeEvent(event);
+}
+
+void ParamPageWidgetItem::showEvent(QShowEvent *event)
+{
+    if (!m_editor) {
+        m_editor = createEditor();
+        m_editor->setFixedHeight(EditorHeight);
+        focusEditor()->setAccessibleName(translated(m_labelText));
+        // Built late, it would be the last stop of the whole window.
+        KeyboardFocus::placeBehind(this, focusEditor());
+
+        auto *const layout = new QHBoxLayout;
+        layout->addWidget(m_label);
+        layout->addWidget(m_editor);
+        layout->setContentsMargins(0, 0, 0, 0);
+        setLayout(layout);
+    }
+    QWidget::showEvent(event);
+}
+
+QWidget *ParamPageWidgetItem::createEditor()
+{
+    m_nodeType = devices()->getNodeType(m_device, m_nodeName);
+    switch (m_nodeType) {
+    case RuvoNodeBoolean:
+        return createSwitch();
+    case RuvoNodeInteger: {
+        auto *const spin = new VySpinBox(this);
+        spin->setContextMenuPolicy(Qt::NoContextMenu);
+        connect(spin, &QAbstractSpinBox::editingFinished, this, &ParamPageWidgetItem::onIntParamEditFinished);
+        return spin;
+    }
+    case RuvoNodeFloat: {
+        auto *const spin = new VyDoubleSpinBox(this);
+        spin->setContextMenuPolicy(Qt::NoContextMenu);
+        connect(spin, &QAbstractSpinBox::editingFinished, this, &ParamPageWidgetItem::onFloatParamEditFinished);
+        return spin;
+    }
+    case RuvoNodeEnumeration: {
+        auto *const combo = new VyComboBox(this);
+        connect(combo, QOverload<int>::of(&QComboBox::currentIndexChanged), this,
+                &ParamPageWidgetItem::onEnumParamChanged);
+        return combo;
+    }
+    case RuvoNodeCommand: {
+        auto *const button = new QPushButton(tr("Execute"), this);
+        connect(button, &QAbstractButton::clicked, this, &ParamPageWidgetItem::onButtonClicked);
+        return button;
+    }
+    case RuvoNodeString: {
+        auto *const edit = new VyLineEdit(this);
+        connect(edit, &QLineEdit::editingFinished, this, &ParamPageWidgetItem::onLineEditFinished);
+        return edit;
+    }
+    case RuvoNodeUnknown:
+        break;
+    }
+    return new VySpinBox(this); // a type from outside the enumeration: an editor that is bound to nothing
+}
+
+QWidget *ParamPageWidgetItem::createSwitch()
+{
+    auto *const toggle = new VyToggleSwitch(this);
+    toggle->setFixedWidth(SwitchWidth);
+    connect(toggle, &VyToggleSwitch::toggled, this, &ParamPageWidgetItem::onBoolParamChanged);
+
+    auto *const container = new QWidget(this);
+    auto *const layout = new QHBoxLayout(container);
+    layout->addWidget(toggle);
+    layout->addStretch(0);
+    layout->setContentsMargins(0, 0, 0, 0);
+    return container;
+}
+
+void ParamPageWidgetItem::readValue()
+{
+    switch (m_nodeType) {
+    case RuvoNodeBoolean:
+        return readBool();
+    case RuvoNodeInteger:
+        return readInt();
+    case RuvoNodeFloat:
+        return readFloat();
+    case RuvoNodeEnumeration:
+        return readEnum();
+    case RuvoNodeString:
+        return readString();
+    case RuvoNodeCommand:
+    case RuvoNodeUnknown:
+        break;
+    }
+}
+
+void ParamPageWidgetItem::readBool()
+{
+    bool value = false;
+    if (devices()->getParamBool(m_device, m_nodeName, value) != 0) {
+        return;
+    }
+    auto *const toggle = qobject_cast<VyToggleSwitch *>(focusEditor());
+    const QSignalBlocker blocker(toggle);
+    toggle->setIsToggled(value);
+}
+
+void ParamPageWidgetItem::readInt()
+{
+    int value = 0;
+    int min = 0;
+    int max = 0;
+    int inc = 0;
+    if (devices()->getParamInt(m_device, m_nodeName, value, min, max, inc) != 0) {
+        return;
+    }
+    auto *const spin = static_cast<VySpinBox *>(m_editor);
+    const QSignalBlocker blocker(spin);
+    spin->setMinimum(min);
+    spin->setMaximum(max == -1 ? std::numeric_limits<int>::max() : max);
+    spin->setSingleStep(inc);
+    spin->setValue(value);
+}
+
+void ParamPageWidgetItem::readFloat()
+{
+    float value = 0;
+    float min = 0;
+    float max = 0;
+    float inc = 0;
+    if (devices()->getParamFloat(m_device, m_nodeName, value, min, max, inc) != 0) {
+        return;
+    }
+    auto *const spin = static_cast<VyDoubleSpinBox *>(m_editor);
+    const QSignalBlocker blocker(spin);
+    spin->setMinimum(static_cast<double>(min));
+    spin->setMaximum(static_cast<double>(max));
+    spin->setSingleStep(static_cast<double>(inc));
+    spin->setValue(static_cast<double>(value));
+    m_floatRead = value;
+    m_floatShown = spin->value();
+}
+
+void ParamPageWidgetItem::readEnum()
+{
+    QString value;
+    QList<QString> entries;
+    if (devices()->getParamEnum(m_device, m_nodeName, value, entries) != 0) {
+        return;
+    }
+    auto *const combo = static_cast<VyComboBox *>(m_editor);
+    // Stored as the very type it is read back as: a QStringList in a QVariant reads back empty.
+    combo->setProperty(ValueList, QVariant::fromValue<QList<QString>>(entries));
+    const QSignalBlocker blocker(combo);
+    combo->clear();
+    combo->addItems(translated(entries));
+    combo->setCurrentText(translated(value));
+}
+
+void ParamPageWidgetItem::readString()
+{
+    QString value;
+    if (devices()->getParamString(m_device, m_nodeName, value) != 0) {
+        return;
+    }
+    auto *const edit = static_cast<VyLineEdit *>(m_editor);
+    const QSignalBlocker blocker(edit);
+    edit->setText(value);
+}
+
+void ParamPageWidgetItem::onIntParamEditFinished()
+{
+    const auto *const spin = qobject_cast<VySpinBox *>(sender());
+    if (!spin) {
+        return;
+    }
+    devices()->setParamInt(m_device, m_nodeName, spin->value());
+    Q_EMIT valueChanged();
+}
+
+void ParamPageWidgetItem::onFloatParamEditFinished()
+{
+    const auto *const spin = qobject_cast<VyDoubleSpinBox *>(sender());
+    if (!spin) {
+        return;
+    }
+    // An untouched editor writes the device's own float, also where the editor rounds or clamps what it shows.
+    const double value = spin->value();
+    devices()->setParamFloat(m_device, m_nodeName,
+                             value == m_floatShown ? m_floatRead : static_cast<float>(value));
+    Q_EMIT valueChanged();
+}
+
+void ParamPageWidgetItem::onBoolParamChanged()
+{
+    const auto *const toggle = qobject_cast<VyToggleSwitch *>(sender());
+    if (!toggle) {
+        return;
+    }
+    devices()->setParamBool(m_device, m_nodeName, toggle->getIsToggled());
+    Q_EMIT valueChanged();
+}
+
+void ParamPageWidgetItem::onEnumParamChanged()
+{
+    const auto *const combo = qobject_cast<VyComboBox *>(sender());
+    if (!combo) {
+        return;
+    }
+    const auto entries = combo->property(ValueList).value<QList<QString>>();
+    const int index = combo->currentIndex();
+    if (index < 0 || index >= entries.size()) {
+        return;
+    }
+    devices()->setParamEnum(m_device, m_nodeName, entries.at(index));
+    Q_EMIT valueChanged();
+}
+
+void ParamPageWidgetItem::onButtonClicked()
+{
+    devices()->executeCMD(m_device, m_nodeName);
+    Q_EMIT valueChanged();
+}
+
+void ParamPageWidgetItem::onLineEditFinished()
+{
+    const auto *const edit = qobject_cast<VyLineEdit *>(sender());
+    if (!edit) {
+        return;
+    }
+    devices()->setParamString(m_device, m_nodeName, edit->text());
+    Q_EMIT valueChanged();
+}
+
+/// The widget that takes the keyboard: the editor itself, or the switch in its container.
+QWidget *ParamPageWidgetItem::focusEditor() const
+{
+    QWidget *const toggle = m_editor->findChild<VyToggleSwitch *>();
+    return toggle ? toggle : m_editor;
+}
+
+QString ParamPageWidgetItem::translated(const QString &text) const
+{
+    return tr(text.toUtf8().constData());
+}
+
+QList<QString> ParamPageWidgetItem::translated(QList<QString> entries) const
+{
+    for (QString &entry : entries) {
+        entry = translated(entry);
+    }
+    return entries;
+}
