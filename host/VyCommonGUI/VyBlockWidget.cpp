@@ -2,8 +2,8 @@
 
 #include "BlockTitleBar.h"
 #include "GlyphButton.h"
+#include "LightGround.h"
 
-#include <QPalette>
 #include <QVBoxLayout>
 
 namespace VyViewer {
@@ -12,42 +12,6 @@ namespace {
 
 constexpr int kMargin = 6; // around the contents
 
-/// What stands in a block stands on white, and is painted for it, also where the application is dark. The
-/// colours of selections and links are not here: they stay the application's.
-QPalette lightPalette()
-{
-    struct Shade {
-        QPalette::ColorRole role;
-        QRgb enabled;
-        QRgb disabled;
-    };
-    static constexpr Shade kShades[] = {
-        {QPalette::Window, 0xffffffff, 0xffffffff},
-        {QPalette::WindowText, 0xff202326, 0xff8a8f94},
-        {QPalette::Base, 0xffffffff, 0xfff5f6f7},
-        {QPalette::AlternateBase, 0xfff1f3f5, 0xfff1f3f5},
-        {QPalette::Text, 0xff202326, 0xff8a8f94},
-        {QPalette::PlaceholderText, 0xff73787d, 0xffa8adb2},
-        {QPalette::Button, 0xfff1f3f5, 0xfff5f6f7},
-        {QPalette::ButtonText, 0xff202326, 0xff8a8f94},
-        {QPalette::BrightText, 0xffffffff, 0xffffffff},
-        {QPalette::ToolTipBase, 0xffffffff, 0xffffffff},
-        {QPalette::ToolTipText, 0xff202326, 0xff202326},
-        {QPalette::Light, 0xffffffff, 0xffffffff},
-        {QPalette::Midlight, 0xffe6e9ec, 0xffe6e9ec},
-        {QPalette::Mid, 0xffc3c8cd, 0xffc3c8cd},
-        {QPalette::Dark, 0xff9ba1a7, 0xffb5babf},
-        {QPalette::Shadow, 0xff73787d, 0xff9ba1a7},
-    };
-    QPalette palette;
-    for (const Shade &shade : kShades) {
-        palette.setColor(QPalette::Active, shade.role, shade.enabled);
-        palette.setColor(QPalette::Inactive, shade.role, shade.enabled);
-        palette.setColor(QPalette::Disabled, shade.role, shade.disabled);
-    }
-    return palette;
-}
-
 } // namespace
 
 VyBlockWidget::VyBlockWidget(QWidget *parent)
@@ -55,7 +19,6 @@ VyBlockWidget::VyBlockWidget(QWidget *parent)
     , m_titleBar(new BlockTitleBar(this))
     , m_body(new QWidget(this))
 {
-    setPalette(lightPalette());
     setAutoFillBackground(true);
     setFrameShape(QFrame::StyledPanel);
     setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Maximum);
@@ -71,6 +34,7 @@ VyBlockWidget::VyBlockWidget(QWidget *parent)
     connect(m_titleBar->addButton(), &GlyphButton::clicked, this, &VyBlockWidget::add);
     setAddButtonVisible(false);
     retranslate();
+    new LightGround(this); // the rows of a page paint their ground white
 }
 
 VyBlockWidget::~VyBlockWidget() = default;

@@ -1,0 +1,80 @@
+#include "LightGround.h"
+
+#include <QChildEvent>
+#include <QWidget>
+
+namespace VyViewer {
+
+namespace {
+
+QPalette lightPalette()
+{
+    struct Shade {
+        QPalette::ColorRole role;
+        QRgb enabled;
+        QRgb disabled;
+    };
+    static constexpr Shade kShades[] = {
+        {QPalette::Window, 0xffffffff, 0xffffffff},
+        {QPalette::WindowText, 0xff202326, 0xff6b7075},
+        {QPalette::Base, 0xffffffff, 0xfff5f6f7},
+        {QPalette::AlternateBase, 0xfff1f3f5, 0xfff1f3f5},
+        {QPalette::Text, 0xff202326, 0xff6b7075},
+        {QPalette::PlaceholderText, 0xff73787d, 0xffa8adb2},
+        {QPalette::Button, 0xfff1f3f5, 0xfff5f6f7},
+        {QPalette::ButtonText, 0xff202326, 0xff6b7075},
+        {QPalette::BrightText, 0xffffffff, 0xffffffff},
+        {QPalette::ToolTipBase, 0xffffffff, 0xffffffff},
+        {QPalette::ToolTipText, 0xff202326, 0xff202326},
+        {QPalette::Light, 0xffffffff, 0xffffffff},
+        {QPalette::Midlight, 0xffe6e9ec, 0xffe6e9ec},
+        {QPalette::Mid, 0xffc3c8cd, 0xffc3c8cd},
+        {QPalette::Dark, 0xff9ba1a7, 0xffb5babf},
+        {QPalette::Shadow, 0xff73787d, 0xff9ba1a7},
+    };
+    QPalette palette;
+    for (const Shade &shade : kShades) {
+        palette.setColor(QPalette::Active, shade.role, shade.enabled);
+        palette.setColor(QPalette::Inactive, shade.role, shade.enabled);
+        palette.setColor(QPalette::Disabled, shade.role, shade.disabled);
+    }
+    return palette;
+}
+
+} // namespace
+
+LightGround::LightGround(QWidget *widget)
+    : QObject(widget)
+    , m_palette(lightPalette())
+{
+    adopt(widget);
+}
+
+LightGround::~LightGround() = default;
+
+bool LightGround::eventFilter(QObject *watched, QEvent *event)
+{
+    // When it is polished a child is complete, and a style sheet has had its say.
+    if (event->type() == QEvent::ChildPolished) {
+        if (auto *const child = qobject_cast<QWidget *>(static_cast<QChildEvent *>(event)->child())) {
+            adopt(child);
+        }
+    }
+    return QObject::eventFilter(watched, event);
+}
+
+void LightGround::adopt(QWidget *widget)
+{
+    if (widget->isWindow() && widget != parent()) {
+        return; // stands on a ground of its own
+    }
+    widget->setPalette(m_palette);
+    widget->installEventFilter(this);
+    for (QObject *child : widget->children()) {
+        if (auto *const childWidget = qobject_cast<QWidget *>(child)) {
+            adopt(childWidget);
+        }
+    }
+}
+
+} // namespace VyViewer

@@ -1,0 +1,30 @@
+#pragma once
+
+#include <QObject>
+#include <QPalette>
+
+class QWidget;
+
+namespace VyViewer {
+
+/// Gives a widget and everything in it, also what comes later, colours that are made for a white ground,
+/// whatever the application's palette. The colours of selections and links stay the application's.
+///
+/// Every descendant is given the palette itself: below a widget with a style sheet, palettes are not inherited.
+class LightGround : public QObject
+{
+    Q_OBJECT
+public:
+    /// Serves the widget, and is its child.
+    explicit LightGround(QWidget *widget);
+    ~LightGround() override;
+
+    bool eventFilter(QObject *watched, QEvent *event) override;
+
+private:
+    void adopt(QWidget *widget);
+
+    const QPalette m_palette;
+};
+
+} // namespace VyViewer
