@@ -28,7 +28,7 @@ public:
     explicit VyTriggerConfigWdg(QWidget *parent = nullptr);
     ~VyTriggerConfigWdg() override;
 
-    /// Binds the device to edit; once, before the panel is first shown. The device is not owned and has to
+    /// Binds the device to edit; once, best before the panel is first shown. The device is not owned and has to
     /// outlive the panel. A null device, and any call after the first that bound one, changes nothing and is
     /// reported with qWarning().
     void setVyDevice(Device *device);

@@ -17,7 +17,7 @@ using namespace VyViewer;
 
 namespace {
 
-constexpr QLatin1String ModeNode("InputTriggerMode");
+constexpr QLatin1String kModeNode("InputTriggerMode");
 
 IDeviceManager *devices()
 {
@@ -60,6 +60,9 @@ void VyTriggerConfigWidgetImpl::setVyDevice(Device *device)
             &VyTriggerConfigWidgetImpl::holdTriggerRefresh);
     orderTabStops();
     m_stopContainer->setDevice(device);
+    if (isVisible()) {
+        reshow(); // bound late: what a show reads has not been read
+    }
 }
 
 void VyTriggerConfigWidgetImpl::holdTriggerRefresh(bool en)
@@ -104,12 +107,12 @@ void VyTriggerConfigWidgetImpl::showEvent(QShowEvent *event)
     if (m_device) {
         // The trigger mode is locked while images are acquired, so its access mode tells, whether or not the
         // host has signalled the state that holds now.
-        const bool acquiring = devices()->getNodeAccessMode(m_device, ModeNode) != RuvoNodeReadWrite;
+        const bool acquiring = devices()->getNodeAccessMode(m_device, kModeNode) != RuvoNodeReadWrite;
         onUpdateDeviceGrabStatus(m_device, acquiring ? 1 : 0);
 
         QString mode;
         QList<QString> modes;
-        devices()->getParamEnum(m_device, ModeNode, mode, modes);
+        devices()->getParamEnum(m_device, kModeNode, mode, modes);
         holdTriggerRefresh(mode == QLatin1String("Hold"));
     }
     QWidget::showEvent(event);

@@ -4,7 +4,7 @@
 
 namespace {
 // Kept free at the right, so that the text does not touch the editor beside it.
-constexpr int RightMargin = 5;
+constexpr int kRightMargin = 5;
 }
 
 CLabel::CLabel(QWidget *parent)
@@ -30,5 +30,5 @@ void CLabel::resizeEvent(QResizeEvent *event)
 
 void CLabel::showElided()
 {
-    setText(fontMetrics().elidedText(m_fullText, Qt::ElideRight, width() - RightMargin));
+    setText(fontMetrics().elidedText(m_fullText, Qt::ElideRight, width() - kRightMargin));
 }

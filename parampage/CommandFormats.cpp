@@ -10,15 +10,15 @@ using namespace VyViewer;
 
 namespace {
 
-constexpr int MaximumBytes = 128; // of a command text
+constexpr int kMaximumBytes = 128; // of a command text
 
 struct SourceSpec
 {
     const char *event;
     const char *triggerFormatNode;
 };
-// In the order of CommandFormats::Sources.
-constexpr std::array<SourceSpec, CommandFormats::Sources.size()> SourceSpecs{{
+// In the order of CommandFormats::kSources.
+constexpr std::array<SourceSpec, CommandFormats::kSources.size()> kSourceSpecs{{
     {"tcpserverCMDFormatEvent", "TriggerTcpServerCMDFormat"},
     {"tcpclientCMDFormatEvent", "TriggerTcpClientCMDFormat"},
     {"udpCMDFormatEvent", "TriggerUdpCMDFormat"},
@@ -27,14 +27,14 @@ constexpr std::array<SourceSpec, CommandFormats::Sources.size()> SourceSpecs{{
 
 const SourceSpec &specOf(CommandSource source)
 {
-    return SourceSpecs.at(static_cast<size_t>(source));
+    return kSourceSpecs.at(static_cast<size_t>(source));
 }
 
 } // namespace
 
 CommandFormats::CommandFormats(QObject *page)
-    : m_textValidator(MaximumBytes, nullptr)
-    , m_hexValidator(MaximumBytes, nullptr)
+    : m_textValidator(kMaximumBytes, nullptr)
+    , m_hexValidator(kMaximumBytes, nullptr)
 {
     m_textValidator.setParent(page);
     m_hexValidator.setParent(page);
@@ -81,7 +81,7 @@ void CommandFormats::refreshRows(CommandSource source)
 
 void CommandFormats::createSubscriptions(DeviceEvents &events)
 {
-    for (const CommandSource source : Sources) {
+    for (const CommandSource source : kSources) {
         of(source).subscription = events.subscribe(QString::fromLatin1(specOf(source).event));
     }
 }

@@ -24,10 +24,10 @@ enum class CommandSource { TcpServer, TcpClient, Udp, SerialPort };
 class CommandFormats
 {
 public:
-    static constexpr std::array<CommandSource, 4> Sources{CommandSource::TcpServer, CommandSource::TcpClient,
+    static constexpr std::array<CommandSource, 4> kSources{CommandSource::TcpServer, CommandSource::TcpClient,
                                                           CommandSource::Udp, CommandSource::SerialPort};
     template <typename Page>
-    using Handlers = std::array<void (Page::*)(QVariantMap), Sources.size()>;
+    using Handlers = std::array<void (Page::*)(QVariantMap), kSources.size()>;
 
     /// The page becomes the validators' parent; it also has to own this object.
     explicit CommandFormats(QObject *page);
@@ -37,7 +37,7 @@ public:
 
     /// The first row added decides whether the source is shown.
     void addRow(CommandSource source, ParamPageWidgetItem *row);
-    /// Subscribes to every source's event and has each delivered to its handler, given in the order of Sources.
+    /// Subscribes to every source's event and has each delivered to its handler, given in the order of kSources.
     template <typename Page>
     void subscribe(DeviceEvents &events, Page *page, const Handlers<Page> &handlers);
     /// The page's own subscription to the source's event.
@@ -60,7 +60,7 @@ private:
     Commands &of(CommandSource source);
     const Commands &of(CommandSource source) const;
 
-    std::array<Commands, Sources.size()> m_commands;
+    std::array<Commands, kSources.size()> m_commands;
     ByteLengthValidator m_textValidator;
     HexValidator m_hexValidator;
 };
@@ -71,7 +71,7 @@ template <typename Page>
 void CommandFormats::subscribe(DeviceEvents &events, Page *page, const Handlers<Page> &handlers)
 {
     createSubscriptions(events);
-    for (const CommandSource source : Sources) {
+    for (const CommandSource source : kSources) {
         QObject::connect(subscription(source), &VyViewer::CoreEvent::triggered, page,
                          handlers.at(static_cast<size_t>(source)));
     }

@@ -26,13 +26,13 @@ using namespace VyViewer;
 
 namespace {
 
-constexpr int RowHeight = 35;
-constexpr int EditorHeight = 30;
-constexpr int SwitchWidth = 60;
-constexpr char ValueList[] = "valueList"; // the entries as the device spells them, in the combo box's order
+constexpr int kRowHeight = 35;
+constexpr int kEditorHeight = 30;
+constexpr int kSwitchWidth = 60;
+constexpr char kValueList[] = "valueList"; // the entries as the device spells them, in the combo box's order
 
 // The entries that devices are known to offer. They reach tr() in a variable, where lupdate cannot see them.
-[[maybe_unused]] constexpr const char *KnownEntries[] = {
+[[maybe_unused]] constexpr const char *kKnownEntries[] = {
     QT_TRANSLATE_NOOP("ParamPageWidgetItem", "None"),
     QT_TRANSLATE_NOOP("ParamPageWidgetItem", "Hold"),
     QT_TRANSLATE_NOOP("ParamPageWidgetItem", "SoftwareTrigger"),
@@ -74,7 +74,7 @@ ParamPageWidgetItem::ParamPageWidgetItem(Device *device, const QString &label, c
 {
     setObjectName(m_nodeName); // lets scripts that drive the user interface find the row
     m_label->setAttribute(Qt::WA_TranslucentBackground); // the row's own ground shows through
-    setFixedHeight(RowHeight);
+    setFixedHeight(kRowHeight);
     m_label->setFullText(translated(m_labelText));
 }
 
@@ -110,7 +110,7 @@ void ParamPageWidgetItem::retranslate()
         const QSignalBlocker blocker(combo);
         const int index = combo->currentIndex();
         combo->clear();
-        combo->addItems(translated(combo->property(ValueList).value<QList<QString>>()));
+        combo->addItems(translated(combo->property(kValueList).value<QList<QString>>()));
         combo->setCurrentIndex(index);
     } else if (auto *const button = qobject_cast<QPushButton *>(m_editor)) {
         button->setText(tr("Execute"));
@@ -164,7 +164,7 @@ void ParamPageWidgetItem::showEvent(QShowEvent *event)
 {
     if (!m_editor) {
         m_editor = createEditor();
-        m_editor->setFixedHeight(EditorHeight);
+        m_editor->setFixedHeight(kEditorHeight);
         focusEditor()->setAccessibleName(translated(m_labelText));
         // Built late, it would be the last stop of the whole window.
         KeyboardFocus::placeBehind(this, focusEditor());
@@ -221,7 +221,7 @@ QWidget *ParamPageWidgetItem::createEditor()
 QWidget *ParamPageWidgetItem::createSwitch()
 {
     auto *const toggle = new VyToggleSwitch(this);
-    toggle->setFixedWidth(SwitchWidth);
+    toggle->setFixedWidth(kSwitchWidth);
     connect(toggle, &VyToggleSwitch::toggled, this, &ParamPageWidgetItem::onBoolParamChanged);
 
     auto *const container = new QWidget(this);
@@ -307,7 +307,7 @@ void ParamPageWidgetItem::readEnum()
     }
     auto *const combo = static_cast<VyComboBox *>(m_editor);
     // Stored as the very type it is read back as: a QStringList in a QVariant reads back empty.
-    combo->setProperty(ValueList, QVariant::fromValue<QList<QString>>(entries));
+    combo->setProperty(kValueList, QVariant::fromValue<QList<QString>>(entries));
     const QSignalBlocker blocker(combo);
     combo->clear();
     combo->addItems(translated(entries));
@@ -364,7 +364,7 @@ void ParamPageWidgetItem::onEnumParamChanged()
     if (!combo) {
         return;
     }
-    const auto entries = combo->property(ValueList).value<QList<QString>>();
+    const auto entries = combo->property(kValueList).value<QList<QString>>();
     const int index = combo->currentIndex();
     if (index < 0 || index >= entries.size()) {
         return;

@@ -1,31 +1,29 @@
+#include "PanelProbe.h"
 #include "ScriptedDevice.h"
 #include "TildeTranslator.h"
 
 #include "panel/VyTriggerConfigWdg.h"
 #include "panel/VyTriggerConfigWidgetImpl.h"
 #include "parampage/DeviceEvents.h"
-#include "parampage/ParamPageWidgetItem.h"
 #include "trigger/TriggerConfigWdgImpl.h"
 #include "triggerstop/TriggerStopConfigWdg.h"
 
 #include <VyCommonGUI/VyBlockWidget.h>
-#include <VyCommonGUI/VyComboBox.h>
 #include <VyCommonGUI/VyLineEdit.h>
-#include <VyCommonGUI/VyMultiCheckTitleWidget.h>
 #include <VyCommonGUI/VyScrollArea.h>
 #include <VyCommonGUI/VySpinBox.h>
 #include <VyViewerCore/IDeviceManager.h>
 
-#include <QAbstractButton>
 #include <QAccessible>
 #include <QPushButton>
 #include <QScrollBar>
-#include <QSignalSpy>
+#include <QVBoxLayout>
 #include <QtTest>
 
 #include <memory>
 #include <thread>
 
+using namespace PanelProbe;
 using namespace VyViewer;
 
 namespace {
@@ -45,11 +43,6 @@ class PanelTest : public QObject
         return m_panel->findChildren<Widget *>().at(index);
     }
     VyBlockWidget *stopBlock() const { return find<VyBlockWidget>(1); }
-    template <typename Editor>
-    Editor *editor(const char *node) const
-    {
-        return m_panel->findChild<ParamPageWidgetItem *>(QString::fromLatin1(node))->findChild<Editor *>();
-    }
     void show(const char *mode = "Once")
     {
         m_device.node("InputTriggerMode").value = QString::fromLatin1(mode);
@@ -60,16 +53,6 @@ class PanelTest : public QObject
         QVERIFY(QTest::qWaitForWindowActive(m_panel->window()));
         QCoreApplication::processEvents(); // editors become visible by a queued call
         m_device.takeCalls();
-    }
-    void clickAdd() const
-    {
-        for (auto *button : stopBlock()->findChildren<QAbstractButton *>()) {
-            if (button->toolTip() == QLatin1String("Add")) {
-                QTest::mouseClick(button, Qt::LeftButton);
-                return;
-            }
-        }
-        QFAIL("no add button");
     }
     int visibleStopPages() const
     {
@@ -115,11 +98,11 @@ private Q_SLOTS:
         DeviceEvents::post(QStringLiteral("UserSetLoad"), {});
         QVERIFY(find<VyBlockWidget>()->isVisible());
         QVERIFY(stopBlock()->isHidden());
-        m_panel->hide();
         QTest::ignoreMessage(QtWarningMsg, "VyTriggerConfigWdg: cannot bind a null device");
         m_panel->setVyDevice(nullptr);
-        show();
-        QVERIFY(editor<VySpinBox>(Port)->isVisible());
+        show("Hold"); // bound late
+        QVERIFY(editor<VySpinBox>(m_panel.get(), Port)->isVisible());
+        QVERIFY(stopBlock()->isVisible());
     }
 
     void bindsOnce()
@@ -171,7 +154,7 @@ private Q_SLOTS:
     {
         show("Hold");
         QVERIFY(stopBlock()->isVisible());
-        auto *const mode = editor<VyComboBox>("InputTriggerMode");
+        auto *const mode = editor<VyComboBox>(m_panel.get(), "InputTriggerMode");
         mode->setCurrentText(QStringLiteral("Once"));
         QVERIFY(stopBlock()->isHidden());
         m_device.takeCalls();
@@ -197,7 +180,7 @@ private Q_SLOTS:
                         QStringLiteral("get InputTriggerMode"));
         expected.insert(2 + rows.indexOf(QStringLiteral("mode TriggerStopConfig1Condtion")),
                         QStringLiteral("get InputTriggerSource"));
-        editor<VyComboBox>("InputTriggerSource")->setCurrentText(QStringLiteral("Udp"));
+        editor<VyComboBox>(m_panel.get(), "InputTriggerSource")->setCurrentText(QStringLiteral("Udp"));
         QCOMPARE(m_device.takeCalls(), expected);
     }
 
@@ -236,16 +219,16 @@ private Q_SLOTS:
         lock(true);
         signal(&m_device, 7);
         QCOMPARE(titlesEnabled(), 0);
-        QVERIFY(!editor<VyLineEdit>("TriggerStopConfig2UdpStopCMD")->isEnabled());
-        clickAdd();
+        QVERIFY(!editor<VyLineEdit>(m_panel.get(), "TriggerStopConfig2UdpStopCMD")->isEnabled());
+        click(stopBlock(), "Add");
         QCOMPARE(visibleStopPages(), 2);
         QVERIFY(m_device.writes().isEmpty());
 
         lock(false);
         signal(&m_device, 0);
         QCOMPARE(titlesEnabled(), 5);
-        QVERIFY(editor<VySpinBox>(Port)->isEnabled());
-        clickAdd();
+        QVERIFY(editor<VySpinBox>(m_panel.get(), Port)->isEnabled());
+        click(stopBlock(), "Add");
         QCOMPARE(visibleStopPages(), 3);
         QCOMPARE(m_device.writes(), QStringList{QStringLiteral("set TriggerStopConfig3Enable=true")});
 
@@ -259,13 +242,13 @@ private Q_SLOTS:
     void lockingAFocusedPageWritesNothing()
     {
         show("Hold");
-        editor<VySpinBox>(Port)->setFocus();
-        QTest::keyClicks(editor<VySpinBox>(Port), QStringLiteral("9"));
+        editor<VySpinBox>(m_panel.get(), Port)->setFocus();
+        QTest::keyClicks(editor<VySpinBox>(m_panel.get(), Port), QStringLiteral("9"));
         lock(true);
         grab(&m_device, 1);
         QCoreApplication::processEvents();
         QVERIFY2(m_device.writes().isEmpty(), qPrintable(m_device.writes().join(QLatin1Char(' '))));
-        QCOMPARE(editor<VySpinBox>(Port)->value(), 7);
+        QCOMPARE(editor<VySpinBox>(m_panel.get(), Port)->value(), 7);
     }
 
     void hostEventsReadEverythingAgain_data()
@@ -298,7 +281,7 @@ private Q_SLOTS:
         m_device.node("InputTriggerMode").value = QStringLiteral("Hold");
         m_device.node(Port).value = 1234;
         DeviceEvents::post(event, payload);
-        QCOMPARE(editor<VySpinBox>(Port)->value(), reads ? 1234 : 7);
+        QCOMPARE(editor<VySpinBox>(m_panel.get(), Port)->value(), reads ? 1234 : 7);
         QCOMPARE(stopBlock()->isVisible(), reads);
         QCOMPARE(m_device.calls.isEmpty(), !reads);
 
@@ -307,7 +290,7 @@ private Q_SLOTS:
         DeviceEvents::post(event, payload);
         QVERIFY2(m_device.calls.isEmpty(), "a panel that is not on screen waits for the next show");
         m_panel->show();
-        QCOMPARE(editor<VySpinBox>(Port)->value(), 1234);
+        QCOMPARE(editor<VySpinBox>(m_panel.get(), Port)->value(), 1234);
         m_panel.reset();
         m_device.takeCalls();
         DeviceEvents::post(event, payload);
@@ -328,6 +311,11 @@ private Q_SLOTS:
     {
         QFETCH(QString, node);
         QFETCH(bool, locked);
+        m_host = std::make_unique<QWidget>();
+        auto *const layout = new QVBoxLayout(m_host.get());
+        layout->addWidget(new QLineEdit(m_host.get())); // where the focus would go to
+        layout->addWidget(m_panel.get());
+        m_host->show();
         show("Hold");
         QWidget *const edited = m_panel->findChild<QWidget *>(node)->findChildren<QWidget *>().at(1);
         edited->setFocus();
@@ -341,7 +329,7 @@ private Q_SLOTS:
     void hidingAFocusedStopPageWritesNothing()
     {
         show("Hold");
-        auto *const spin = editor<VySpinBox>("TriggerStopConfig1FrameCount");
+        auto *const spin = editor<VySpinBox>(m_panel.get(), "TriggerStopConfig1FrameCount");
         spin->setFocus();
         QTest::keyClicks(spin, QStringLiteral("4"));
         find<VyTriggerConfigWidgetImpl>()->holdTriggerRefresh(false);
@@ -365,7 +353,7 @@ private Q_SLOTS:
             m_host->show();
         }
         show();
-        auto *const spin = editor<VySpinBox>(Port);
+        auto *const spin = editor<VySpinBox>(m_panel.get(), Port);
         spin->setFocus();
         QTest::keyClicks(spin, QStringLiteral("4"));
         QVERIFY(spin->hasFocus());
@@ -407,7 +395,7 @@ private Q_SLOTS:
     {
         m_device.node("TriggerStopConfig3Enable").value = true;
         show("Hold");
-        clickAdd(); // page 2, between two that have their editors already
+        click(stopBlock(), "Add"); // page 2, between two that have their editors already
         QCoreApplication::processEvents();
         find<VyBlockWidget>()->findChildren<QAbstractButton *>().first()->setFocus();
         QPoint last(-1, -1);
@@ -427,19 +415,29 @@ private Q_SLOTS:
 
     void languageChange()
     {
+        m_device.node("InputTriggerSource").value = QStringLiteral("Udp");
         show("Hold");
+        const QStringList titles = shownTitles(m_panel.get());
         TildeTranslator translator;
         QVERIFY(QCoreApplication::installTranslator(&translator));
         QCoreApplication::processEvents();
+        QStringList expected = titles;
+        for (QString &title : expected) {
+            title.prepend(QLatin1Char('~'));
+        }
+        QCOMPARE(shownTitles(m_panel.get()), expected);
         QCOMPARE(find<VyTriggerConfigWidgetImpl>()->windowTitle(), QStringLiteral("~Form"));
-        QVERIFY(m_panel->grab().toImage() != QImage());
         QStringList names;
         for (auto *button : m_panel->findChildren<QAbstractButton *>()) {
             names.append(QAccessible::queryAccessibleInterface(button)->text(QAccessible::Name));
         }
         QVERIFY(names.contains(QStringLiteral("~Trigger Config")));
         QVERIFY(names.contains(QStringLiteral("~Trigger Stop Config")));
-        QCOMPARE(editor<QPushButton>("InputSoftwareTrigger")->text(), QStringLiteral("~Execute"));
+        for (const auto *parameter : m_panel->findChildren<ParamPageWidgetItem *>()) {
+            QVERIFY(parameter->findChild<QLabel *>()->toolTip().startsWith(QLatin1Char('~')));
+        }
+        QCOMPARE(editor<QPushButton>(m_panel.get(), "InputSoftwareTrigger")->text(), QStringLiteral("~Execute"));
+        QCOMPARE(editor<VyComboBox>(m_panel.get(), "InputTriggerMode")->currentText(), QStringLiteral("~Hold"));
         QVERIFY(m_device.calls.isEmpty());
     }
 };

@@ -1,13 +1,16 @@
 #include "ScriptedDevice.h"
 
 #include "parampage/ByteLengthValidator.h"
+#include "parampage/DeviceEvents.h"
 #include "parampage/HexValidator.h"
 #include "parampage/ParamPageWidget.h"
 #include "parampage/ParamPageWidgetItem.h"
 
 #include <VyCommonGUI/VyLineEdit.h>
+#include <VyViewerCore/CoreEventBus.h>
 
 #include <QLabel>
+#include <QPointer>
 #include <QtTest>
 
 #include <memory>
@@ -66,6 +69,20 @@ private Q_SLOTS:
         m_page->updateWidget();
         QVERIFY2(m_device.calls.isEmpty(), "a page in a hidden window reads nothing");
         m_page->setParent(nullptr);
+    }
+
+    void subscriptionsEndWithTheirOwner()
+    {
+        QPointer<VyViewer::CoreEvent> event;
+        {
+            DeviceEvents events;
+            event = events.subscribe(QStringLiteral("name"));
+        }
+        QVERIFY2(event, "one that is delivering right now must live on");
+        auto *const bus = VyViewer::Singleton<VyViewer::CoreEventBus>::getInstance();
+        QVERIFY2(bus->unRegisterEvent(event) != 0, "no longer registered");
+        QCoreApplication::sendPostedEvents(event, QEvent::DeferredDelete);
+        QVERIFY(!event);
     }
 
     void rowsStand41PixelsApart()

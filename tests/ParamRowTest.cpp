@@ -59,7 +59,7 @@ class ParamRowTest : public QObject
     ScriptedDevice m_device;
     std::unique_ptr<ParamPageWidget> m_page;
 
-    const QStringList m_refresh{QStringLiteral("mode Node"), QStringLiteral("get Node")};
+    const QStringList m_refresh = ScriptedDevice::refreshOf(Node);
 
 private Q_SLOTS:
     void init() { m_device.reset(); }

@@ -4,46 +4,36 @@
 
 namespace {
 
-constexpr long Failure = -1;
+constexpr long kFailure = -1;
+
+QList<QString> words(const char *text)
+{
+    return QString::fromLatin1(text).split(QLatin1Char(' '));
+}
 
 ScriptedDevice::Node guessed(const QString &name)
 {
-    struct Guess
+    const struct
     {
         const char *pattern;
-        RuvoNodeType type;
-        QVariant value;
-        QList<QString> entries;
+        ScriptedDevice::Node node;
+    } guesses[] = {
+        {"TriggerMode$", {RuvoNodeEnumeration, QStringLiteral("None"), words("None Hold Once")}},
+        {"TriggerSource$", {RuvoNodeEnumeration, QStringLiteral("SoftwareTrigger"),
+                            words("SoftwareTrigger TcpServer TcpClient Udp RS-232 AutoTrigger")}},
+        {"CMDFormat$", {RuvoNodeEnumeration, QStringLiteral("String"), words("String Hex")}},
+        {"(Condtion|Baudrate|Flowcontrol|bit)$", {RuvoNodeEnumeration, QStringLiteral("First"), words("First Second")}},
+        {"(CMD|Ip)$", {RuvoNodeString, QStringLiteral("text")}},
+        {"(Enable|Matching|Match|Follow|Key\\w*)$", {RuvoNodeBoolean, false}},
+        {"Delay$", {RuvoNodeFloat, 1.5F}},
+        {"SoftwareTrigger$", {RuvoNodeCommand, QVariant()}},
     };
-    const QString none = QStringLiteral("None");
-    const QList<QString> modes{none, QStringLiteral("Hold"), QStringLiteral("Once")};
-    const QList<QString> sources{QStringLiteral("SoftwareTrigger"), QStringLiteral("TcpServer"), QStringLiteral("TcpClient"),
-                                 QStringLiteral("Udp"), QStringLiteral("RS-232"), QStringLiteral("AutoTrigger")};
-    const QList<QString> formats{QStringLiteral("String"), QStringLiteral("Hex")};
-    const QList<QString> others{QStringLiteral("First"), QStringLiteral("Second"), QStringLiteral("Third")};
-    const Guess guesses[] = {
-        {"TriggerMode$", RuvoNodeEnumeration, none, modes},
-        {"TriggerSource$", RuvoNodeEnumeration, sources.first(), sources},
-        {"CMDFormat$", RuvoNodeEnumeration, formats.first(), formats},
-        {"(Condtion|Baudrate|Flowcontrol|bit)$", RuvoNodeEnumeration, others.first(), others},
-        {"(CMD|Ip)$", RuvoNodeString, QStringLiteral("text"), {}},
-        {"(Enable|Matching|Match|Follow|Key\\w*)$", RuvoNodeBoolean, false, {}},
-        {"Delay$", RuvoNodeFloat, 1.5F, {}},
-        {"SoftwareTrigger$", RuvoNodeCommand, {}, {}},
-    };
-    for (const Guess &guess : guesses) {
+    for (const auto &guess : guesses) {
         if (QRegularExpression(QString::fromLatin1(guess.pattern)).match(name).hasMatch()) {
-            ScriptedDevice::Node node;
-            node.type = guess.type;
-            node.value = guess.value;
-            node.entries = guess.entries;
-            return node;
+            return guess.node;
         }
     }
-    ScriptedDevice::Node number;
-    number.type = RuvoNodeInteger;
-    number.value = 7;
-    return number;
+    return {};
 }
 
 } // namespace
@@ -58,7 +48,6 @@ void ScriptedDevice::reset()
 {
     m_nodes.clear();
     calls.clear();
-    afterWrite = nullptr;
 }
 
 QStringList ScriptedDevice::takeCalls()
@@ -73,82 +62,24 @@ QStringList ScriptedDevice::writes() const
     return calls.filter(QRegularExpression(QStringLiteral("^(set|run) ")));
 }
 
-long ScriptedDevice::getParamInt(const QString &name, int &value, int &min, int &max, int &inc)
+QStringList ScriptedDevice::refreshOf(const QString &name)
 {
-    return readNumber(name, value, min, max, inc);
-}
-
-long ScriptedDevice::getParamFloat(const QString &name, float &value, float &min, float &max, float &inc)
-{
-    return readNumber(name, value, min, max, inc);
-}
-
-long ScriptedDevice::getParamBool(const QString &name, bool &value)
-{
-    const Node *const node = read(name);
-    if (!node) {
-        return Failure;
-    }
-    value = node->value.toBool();
-    return 0;
+    return {QStringLiteral("mode ") + name, QStringLiteral("get ") + name};
 }
 
 long ScriptedDevice::getParamEnum(const QString &name, QString &value, QList<QString> &entries)
 {
-    const Node *const node = read(name);
-    if (!node) {
-        return Failure;
+    const long status = read(name, value);
+    if (status == 0) {
+        entries = node(name).entries;
     }
-    value = node->value.toString();
-    entries = node->entries;
-    return 0;
-}
-
-long ScriptedDevice::getParamString(const QString &name, QString &value)
-{
-    const Node *const node = read(name);
-    if (!node) {
-        return Failure;
-    }
-    value = node->value.toString();
-    return 0;
-}
-
-long ScriptedDevice::setParamInt(const QString &name, int value)
-{
-    return write(name, value);
-}
-
-long ScriptedDevice::setParamFloat(const QString &name, float value)
-{
-    return write(name, value);
-}
-
-long ScriptedDevice::setParamBool(const QString &name, bool value)
-{
-    return write(name, value);
-}
-
-long ScriptedDevice::setParamEnum(const QString &name, const QString &value)
-{
-    return write(name, value);
-}
-
-long ScriptedDevice::setParamString(const QString &name, const QString &value)
-{
-    return write(name, value);
+    return status;
 }
 
 long ScriptedDevice::executeCMD(const QString &name)
 {
     calls.append(QStringLiteral("run ") + name);
-    if (node(name).refusesWrites) {
-        return Failure;
-    }
-    if (afterWrite) {
-        afterWrite(name);
-    }
-    return 0;
+    return node(name).refusesWrites ? kFailure : 0;
 }
 
 RuvoNodeType ScriptedDevice::getNodeType(const QString &name)
@@ -163,37 +94,37 @@ RuvoNodeAccessMode ScriptedDevice::getNodeAccessMode(const QString &name)
     return node(name).mode;
 }
 
-const ScriptedDevice::Node *ScriptedDevice::read(const QString &name)
+template <typename Value>
+long ScriptedDevice::read(const QString &name, Value &value)
 {
     calls.append(QStringLiteral("get ") + name);
-    const Node &node = this->node(name);
-    return node.failsReads ? nullptr : &node;
+    if (node(name).failsReads) {
+        return kFailure;
+    }
+    value = node(name).value.template value<Value>();
+    return 0;
 }
+template long ScriptedDevice::read(const QString &, bool &);
+template long ScriptedDevice::read(const QString &, QString &);
 
 template <typename Number>
 long ScriptedDevice::readNumber(const QString &name, Number &value, Number &min, Number &max, Number &inc)
 {
-    const Node *const node = read(name);
-    if (!node) {
-        return Failure;
-    }
-    value = node->value.value<Number>();
-    min = static_cast<Number>(node->min);
-    max = static_cast<Number>(node->max);
-    inc = static_cast<Number>(node->inc);
-    return 0;
+    const Node &limits = node(name);
+    min = static_cast<Number>(limits.min);
+    max = static_cast<Number>(limits.max);
+    inc = static_cast<Number>(limits.inc);
+    return read(name, value);
 }
+template long ScriptedDevice::readNumber(const QString &, int &, int &, int &, int &);
+template long ScriptedDevice::readNumber(const QString &, float &, float &, float &, float &);
 
 long ScriptedDevice::write(const QString &name, const QVariant &value)
 {
     calls.append(QStringLiteral("set %1=%2").arg(name, value.toString()));
-    Node &node = this->node(name);
-    if (node.refusesWrites) {
-        return Failure;
+    if (node(name).refusesWrites) {
+        return kFailure;
     }
-    node.value = value;
-    if (afterWrite) {
-        afterWrite(name);
-    }
+    node(name).value = value;
     return 0;
 }

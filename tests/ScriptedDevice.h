@@ -17,13 +17,13 @@ class ScriptedDevice : public Device
 public:
     struct Node
     {
-        RuvoNodeType type = RuvoNodeUnknown;
+        RuvoNodeType type = RuvoNodeInteger;
+        QVariant value = 7;
+        QList<QString> entries = {};
         RuvoNodeAccessMode mode = RuvoNodeReadWrite;
-        QVariant value;
         double min = 0;
         double max = 65535;
         double inc = 1;
-        QList<QString> entries;
         bool failsReads = false;
         bool refusesWrites = false;
     };
@@ -31,10 +31,6 @@ public:
     /// The node of that name; made on first use, with a type guessed from its name as devices name them.
     Node &node(const QString &name);
     Node &node(const char *name) { return node(QString::fromLatin1(name)); }
-
-    /// Runs after every write and command, so that a test can let the device adjust itself.
-    std::function<void(const QString &name)> afterWrite;
-
     /// Forgets all nodes and calls.
     void reset();
 
@@ -42,23 +38,32 @@ public:
     QStringList takeCalls();
     /// What was written or run, without the reads.
     QStringList writes() const;
+    /// The calls by which a row that is shown refreshes itself.
+    static QStringList refreshOf(const QString &name);
 
-    long getParamInt(const QString &name, int &value, int &min, int &max, int &inc) override;
-    long getParamFloat(const QString &name, float &value, float &min, float &max, float &inc) override;
-    long getParamBool(const QString &name, bool &value) override;
+    long getParamInt(const QString &name, int &value, int &min, int &max, int &inc) override
+    {
+        return readNumber(name, value, min, max, inc);
+    }
+    long getParamFloat(const QString &name, float &value, float &min, float &max, float &inc) override
+    {
+        return readNumber(name, value, min, max, inc);
+    }
+    long getParamBool(const QString &name, bool &value) override { return read(name, value); }
     long getParamEnum(const QString &name, QString &value, QList<QString> &entries) override;
-    long getParamString(const QString &name, QString &value) override;
-    long setParamInt(const QString &name, int value) override;
-    long setParamFloat(const QString &name, float value) override;
-    long setParamBool(const QString &name, bool value) override;
-    long setParamEnum(const QString &name, const QString &value) override;
-    long setParamString(const QString &name, const QString &value) override;
+    long getParamString(const QString &name, QString &value) override { return read(name, value); }
+    long setParamInt(const QString &name, int value) override { return write(name, value); }
+    long setParamFloat(const QString &name, float value) override { return write(name, value); }
+    long setParamBool(const QString &name, bool value) override { return write(name, value); }
+    long setParamEnum(const QString &name, const QString &value) override { return write(name, value); }
+    long setParamString(const QString &name, const QString &value) override { return write(name, value); }
     long executeCMD(const QString &name) override;
     RuvoNodeType getNodeType(const QString &name) override;
     RuvoNodeAccessMode getNodeAccessMode(const QString &name) override;
 
 private:
-    const Node *read(const QString &name);
+    template <typename Value>
+    long read(const QString &name, Value &value);
     template <typename Number>
     long readNumber(const QString &name, Number &value, Number &min, Number &max, Number &inc);
     long write(const QString &name, const QVariant &value);

@@ -1,27 +1,23 @@
+#include "PanelProbe.h"
 #include "ScriptedDevice.h"
-#include "TildeTranslator.h"
 
 #include "parampage/DeviceEvents.h"
-#include "parampage/ParamPageWidgetItem.h"
 #include "triggerstop/TriggerStopConfigContainerWdg.h"
 #include "triggerstop/TriggerStopConfigWdg.h"
 
-#include <VyCommonGUI/VyComboBox.h>
 #include <VyCommonGUI/VyLineEdit.h>
-#include <VyCommonGUI/VyMultiCheckTitleWidget.h>
 #include <VyCommonGUI/VySpinBox.h>
 #include <VyCommonGUI/VyToggleSwitch.h>
 #include <VyViewerCore/CoreEvent.h>
 #include <VyViewerCore/CoreEventBus.h>
 
-#include <QAbstractButton>
-#include <QLabel>
 #include <QSet>
 #include <QSignalSpy>
 #include <QtTest>
 
 #include <memory>
 
+using namespace PanelProbe;
 using namespace VyViewer;
 
 namespace {
@@ -31,11 +27,6 @@ const char *const ConditionEvent = "TriggerStopConditionEvent";
 QString node(int number, const char *name)
 {
     return QStringLiteral("TriggerStopConfig%1%2").arg(number).arg(QString::fromLatin1(name));
-}
-
-QStringList refreshOf(const QString &name)
-{
-    return {QStringLiteral("mode ") + name, QStringLiteral("get ") + name};
 }
 
 } // namespace
@@ -50,21 +41,13 @@ class StopConfigTest : public QObject
         return m_container->findChildren<TriggerStopConfigWdg *>().at(number - 1);
     }
     template <typename Editor>
-    Editor *editor(int number, const char *name) const
+    Editor *editorOf(int number, const char *name) const
     {
-        return m_container->findChild<ParamPageWidgetItem *>(node(number, name))->findChild<Editor *>();
+        return editor<Editor>(m_container.get(), node(number, name));
     }
     VyMultiCheckTitleWidget *title(int number) const
     {
         return page(number)->findChild<VyMultiCheckTitleWidget *>();
-    }
-    void clickDelete(int number) const
-    {
-        for (auto *button : title(number)->findChildren<QAbstractButton *>()) {
-            if (button->isVisible()) {
-                QTest::mouseClick(button, Qt::LeftButton);
-            }
-        }
     }
     QVector<int> shownPages() const
     {
@@ -91,7 +74,7 @@ class StopConfigTest : public QObject
     {
         QStringList calls;
         for (const int number : numbers) {
-            calls += refreshOf(node(number, "Condtion"));
+            calls += ScriptedDevice::refreshOf(node(number, "Condtion"));
         }
         return calls;
     }
@@ -130,7 +113,7 @@ private Q_SLOTS:
                 QVERIFY2(row->objectName().startsWith(node(number, "")), qPrintable(row->objectName()));
                 nodes.insert(row->objectName());
             }
-            QCOMPARE(title(number)->findChild<QLabel *>()->text(), QStringLiteral("Config %1").arg(number));
+            QCOMPARE(text(title(number)), QStringLiteral("Config %1").arg(number));
             int buttons = 0;
             for (const auto *button : title(number)->findChildren<QAbstractButton *>()) {
                 buttons += button->isVisible() ? 1 : 0;
@@ -200,25 +183,25 @@ private Q_SLOTS:
     {
         show({2, 3});
         m_device.node(node(3, "Enable")).refusesWrites = true;
-        clickDelete(3);
+        click(title(3), "Delete");
         QCOMPARE(m_device.takeCalls(),
                  QStringList{QStringLiteral("set TriggerStopConfig3Enable=false")}
                      + conditionRefreshOf({1, 2, 3, 4, 5}));
         QCOMPARE(shownPages(), (QVector<int>{1, 2}));
 
         m_container->setTitlesEnabled(false);
-        clickDelete(2);
+        click(title(2), "Delete");
         QVERIFY2(m_device.calls.isEmpty(), "a disabled title deletes nothing");
-        QVERIFY(editor<VySpinBox>(2, "FrameCount")->isEnabled());
+        QVERIFY(editorOf<VySpinBox>(2, "FrameCount")->isEnabled());
         m_container->setTitlesEnabled(true);
-        clickDelete(2);
+        click(title(2), "Delete");
         QCOMPARE(shownPages(), QVector<int>{1});
     }
 
     void deletingWithAPendingEditWritesNothingElse()
     {
         show({2});
-        auto *const spin = editor<VySpinBox>(2, "FrameCount");
+        auto *const spin = editorOf<VySpinBox>(2, "FrameCount");
         spin->setFocus();
         QTest::keyClicks(spin, QStringLiteral("9"));
         page(2)->deleteStopConfig(); // as assistive technology would, without moving the focus first
@@ -230,7 +213,7 @@ private Q_SLOTS:
     {
         show({2, 3});
         const QStringList rows = refreshOfAllRows(2);
-        editor<VyComboBox>(2, "Condtion")->setCurrentIndex(1);
+        editorOf<VyComboBox>(2, "Condtion")->setCurrentIndex(1);
         QCOMPARE(m_device.takeCalls(), QStringList{QStringLiteral("set TriggerStopConfig2Condtion=Second")} + rows
                                            + conditionRefreshOf({1, 3, 4, 5}));
     }
@@ -242,7 +225,7 @@ private Q_SLOTS:
         CoreEvent heard(QStringLiteral("TriggerStopDecodeCountEnable"), nullptr);
         Singleton<CoreEventBus>::getInstance()->registerEvent(&heard);
         QSignalSpy bus(&heard, &CoreEvent::triggered);
-        auto *const toggle = editor<VyToggleSwitch>(1, "CodeCountEnable");
+        auto *const toggle = editorOf<VyToggleSwitch>(1, "CodeCountEnable");
         QTest::keyClick(toggle, Qt::Key_Space);
         QCOMPARE(m_device.takeCalls(),
                  QStringList{QStringLiteral("set TriggerStopConfig1CodeCountEnable=true")} + rows);
@@ -286,7 +269,7 @@ private Q_SLOTS:
         const QString ownFormat = node(1, "") + source + QStringLiteral("CMDFormat");
         const QString triggerFormat = QStringLiteral("Trigger") + source + QStringLiteral("CMDFormat");
         show({});
-        auto *const edit = m_container->findChild<ParamPageWidgetItem *>(command)->findChild<VyLineEdit *>();
+        auto *const edit = editor<VyLineEdit>(m_container.get(), command);
         const auto takesLetters = [edit] {
             edit->clear();
             edit->insert(QStringLiteral("G"));
@@ -301,7 +284,7 @@ private Q_SLOTS:
         DeviceEvents::post(event, DeviceEvents::payload(&m_device));
         const QString read = mode < RuvoNodeWriteOnly ? triggerFormat : ownFormat;
         const QStringList rule{QStringLiteral("mode ") + ownFormat, QStringLiteral("get ") + read};
-        QCOMPARE(m_device.calls.mid(0, 4), refreshOf(command) + rule);
+        QCOMPARE(m_device.calls.mid(0, 4), ScriptedDevice::refreshOf(command) + rule);
         QCOMPARE(takesLetters(), !hex);
 
         // A show applies the rule to the sources that are on screen, and to no other.
@@ -321,9 +304,9 @@ private Q_SLOTS:
     {
         show({2});
         const QStringList rows = refreshOfAllRows(1);
-        editor<VyComboBox>(1, "UdpCMDFormat")->setCurrentIndex(1);
+        editorOf<VyComboBox>(1, "UdpCMDFormat")->setCurrentIndex(1);
         QCOMPARE(m_device.takeCalls(), QStringList{QStringLiteral("set TriggerStopConfig1UdpCMDFormat=Hex")} + rows
-                                           + refreshOf(node(1, "UdpCMDFormat")));
+                                           + ScriptedDevice::refreshOf(node(1, "UdpCMDFormat")));
     }
 
     void triggerSourceRefreshesVisiblePages()
@@ -342,18 +325,6 @@ private Q_SLOTS:
         m_container.reset();
         DeviceEvents::post(QString::fromLatin1(ConditionEvent), DeviceEvents::payload(&m_device));
         QVERIFY2(m_device.calls.isEmpty(), "destroyed pages hear nothing");
-    }
-
-    void languageChange()
-    {
-        show({2});
-        TildeTranslator translator;
-        QVERIFY(QCoreApplication::installTranslator(&translator));
-        QCoreApplication::processEvents();
-        QCOMPARE(title(2)->findChild<QLabel *>()->text(), QStringLiteral("~Config 2"));
-        const auto *row = page(2)->findChild<ParamPageWidgetItem *>();
-        QCOMPARE(row->findChild<QLabel *>()->toolTip(), QStringLiteral("~Stop Condition"));
-        QVERIFY(m_device.calls.isEmpty());
     }
 };
 

@@ -13,8 +13,8 @@ using namespace VyViewer;
 
 namespace {
 
-constexpr QLatin1String ModeNode("InputTriggerMode");
-constexpr QLatin1String SourceNode("InputTriggerSource");
+constexpr QLatin1String kModeNode("InputTriggerMode");
+constexpr QLatin1String kSourceNode("InputTriggerSource");
 
 using Source = CommandSource;
 enum class Role { Plain, Title, TriggerMode, TriggerSource, Format, Command };
@@ -27,7 +27,7 @@ struct RowSpec
     Source source = Source::TcpServer; // of a format or command row
 };
 
-constexpr RowSpec Rows[] = {
+constexpr RowSpec kRows[] = {
     {"InputTriggerMode", QT_TRANSLATE_NOOP("ParamPageWidgetItem", "Trigger Mode"), Role::TriggerMode},
     {"InputTriggerSource", QT_TRANSLATE_NOOP("ParamPageWidgetItem", "Trigger Source"), Role::TriggerSource},
     {"InputSoftwareTrigger", QT_TRANSLATE_NOOP("ParamPageWidgetItem", "Software Trigger")},
@@ -90,10 +90,10 @@ void TriggerConfigWdgImpl::updateSourceTitles()
     for (const Title &title : qAsConst(m_titles)) {
         title.widget->hide();
     }
-    if (currentEntry(ModeNode) == QLatin1String("None")) {
+    if (currentEntry(kModeNode) == QLatin1String("None")) {
         return;
     }
-    const QString source = currentEntry(SourceNode);
+    const QString source = currentEntry(kSourceNode);
     for (const Title &title : qAsConst(m_titles)) {
         if (source == QLatin1String(title.source)) {
             title.widget->show();
@@ -130,7 +130,7 @@ void TriggerConfigWdgImpl::showEvent(QShowEvent *event)
 {
     ParamPageWidget::showEvent(event);
     updateSourceTitles();
-    for (const Source source : CommandFormats::Sources) {
+    for (const Source source : CommandFormats::kSources) {
         if (m_formats.isShown(source)) {
             updateCMDFormat(source);
         }
@@ -155,7 +155,7 @@ void TriggerConfigWdgImpl::changeEvent(QEvent *event)
 
 void TriggerConfigWdgImpl::onTriggerModeChange()
 {
-    const QString mode = currentEntry(ModeNode);
+    const QString mode = currentEntry(kModeNode);
     Q_EMIT triggerModeHoldRefresh(mode == QLatin1String("Hold"));
 
     QVariantMap payload = DeviceEvents::payload(m_device);
@@ -207,7 +207,7 @@ void TriggerConfigWdgImpl::subscribe()
 
 void TriggerConfigWdgImpl::buildRows()
 {
-    for (const RowSpec &spec : Rows) {
+    for (const RowSpec &spec : kRows) {
         if (spec.role == Role::Title) {
             addTitle(spec.node, spec.label);
             continue;

@@ -16,7 +16,7 @@ using VyViewer::IDeviceManager;
 using VyViewer::Singleton;
 
 namespace {
-constexpr int PageCount = 5;
+constexpr int kPageCount = 5;
 }
 
 TriggerStopConfigContainerWdg::TriggerStopConfigContainerWdg(QWidget *parent)
@@ -31,7 +31,7 @@ TriggerStopConfigContainerWdg::~TriggerStopConfigContainerWdg() = default;
 void TriggerStopConfigContainerWdg::setDevice(Device *device)
 {
     m_device = device;
-    for (int i = 0; i < PageCount; ++i) {
+    for (int i = 0; i < kPageCount; ++i) {
         auto *const page = new TriggerStopConfigWdg(i + 1, device, this);
         m_grid->addWidget(page, i, 0);
         m_pages.append(page);

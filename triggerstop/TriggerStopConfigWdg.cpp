@@ -27,7 +27,7 @@ struct RowSpec
     Source source = Source::TcpServer; // of a format or command row
 };
 
-constexpr RowSpec Rows[] = {
+constexpr RowSpec kRows[] = {
     {"TriggerStopConfig%1Condtion", QT_TRANSLATE_NOOP("ParamPageWidgetItem", "Stop Condition"), Role::Condition},
     {"TriggerStopConfig%1FrameCount", QT_TRANSLATE_NOOP("ParamPageWidgetItem", "Triggered Frame Count")},
     {"TriggerStopConfig%1Duration", QT_TRANSLATE_NOOP("ParamPageWidgetItem", "Trigger Duration(ms)")},
@@ -127,7 +127,7 @@ void TriggerStopConfigWdg::deleteStopConfig()
 void TriggerStopConfigWdg::showEvent(QShowEvent *event)
 {
     ParamPageWidget::showEvent(event);
-    for (const Source source : CommandFormats::Sources) {
+    for (const Source source : CommandFormats::kSources) {
         if (m_formats.isShown(source)) {
             updateCMDFormat(source);
         }
@@ -209,7 +209,7 @@ void TriggerStopConfigWdg::buildTitle()
 
 void TriggerStopConfigWdg::buildRows()
 {
-    for (const RowSpec &spec : Rows) {
+    for (const RowSpec &spec : kRows) {
         auto *const row = new ParamPageWidgetItem(m_device, QString::fromLatin1(spec.label),
                                                   nodeName(spec.node), this);
         // First, so that all rows are refreshed when the handlers below run.
@@ -248,7 +248,7 @@ QString TriggerStopConfigWdg::nodeName(const char *nodeTemplate) const
 
 void TriggerStopConfigWdg::updateCMDFormat(CommandSource source)
 {
-    const auto *const own = std::find_if(std::begin(Rows), std::end(Rows), [source](const RowSpec &spec) {
+    const auto *const own = std::find_if(std::begin(kRows), std::end(kRows), [source](const RowSpec &spec) {
         return spec.role == Role::Format && spec.source == source;
     });
     QString node = nodeName(own->node);

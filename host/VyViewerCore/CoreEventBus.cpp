@@ -7,8 +7,8 @@
 namespace VyViewer {
 
 namespace {
-constexpr long Success = 0;
-constexpr long Failure = -1;
+constexpr long kSuccess = 0;
+constexpr long kFailure = -1;
 }
 
 // Never destroyed: subscriptions that outlive main() still unregister themselves.
@@ -26,39 +26,39 @@ long CoreEventBus::post(const QString &name, const QVariantMap &payload)
     const QVector<CoreEvent *> registered = m_events.value(name);
     const QVector<QPointer<CoreEvent>> receivers(registered.cbegin(), registered.cend());
     for (const QPointer<CoreEvent> &event : receivers) {
-        if (event && m_events.value(name).contains(event.data())) {
+        if (m_events.value(name).contains(event.data())) { // not for a destroyed one, which is null
             Q_EMIT event->triggered(payload);
         }
     }
-    return Success;
+    return kSuccess;
 }
 
 long CoreEventBus::registerEvent(CoreEvent *event)
 {
     if (!event) {
-        return Failure;
+        return kFailure;
     }
     QVector<CoreEvent *> &events = m_events[event->getEventName()];
     if (events.contains(event)) {
-        return Failure;
+        return kFailure;
     }
     events.append(event);
-    return Success;
+    return kSuccess;
 }
 
 long CoreEventBus::unRegisterEvent(CoreEvent *event)
 {
     if (!event) {
-        return Failure;
+        return kFailure;
     }
     const auto events = m_events.find(event->getEventName());
     if (events == m_events.end() || !events->removeOne(event)) {
-        return Failure;
+        return kFailure;
     }
     if (events->isEmpty()) {
         m_events.erase(events);
     }
-    return Success;
+    return kSuccess;
 }
 
 } // namespace VyViewer

@@ -25,13 +25,7 @@ IDeviceManager *Singleton<IDeviceManager>::getInstance()
     return manager;
 }
 
-IDeviceManager::IDeviceManager()
-{
-    // moc spells the signal's first argument "Device*const". A queued delivery looks the argument types up by
-    // name, so that spelling has to be known too.
-    qRegisterMetaType<IDevice>();
-    qRegisterMetaType<IDevice>("Device*const");
-}
+IDeviceManager::IDeviceManager() = default;
 
 long IDeviceManager::getParamInt(Device *device, const QString &name, int &value, int &min, int &max, int &inc)
 {

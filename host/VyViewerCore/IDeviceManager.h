@@ -49,7 +49,8 @@ public:
 
 Q_SIGNALS:
     /// Whoever starts or stops a device's acquisition emits this, on any thread. Status 0: the device is not
-    /// acquiring images; any other value: it is.
+    /// acquiring images; any other value: it is. moc spells the first argument "Device*const": a receiver on
+    /// another thread has to register IDevice under that name too, or the emission is dropped.
     void deviceGrabStatusUpdate(Device *const device, int status);
 
 private:
