@@ -1,0 +1,18 @@
+#pragma once
+
+#include <QByteArray>
+#include <QPair>
+#include <QString>
+#include <QVector>
+
+/// What we have to know about a GenICam description before Aravis may work with it.
+struct CameraDescription
+{
+    /// What the nodes hold when the camera is switched on, in the description's order.
+    QVector<QPair<QByteArray, QByteArray>> powerUp;
+
+    /// Checks the description and collects its power-up values. Aravis takes text that stops half-way for a
+    /// smaller description, and follows references without end or into nothing; such a one is refused
+    /// here. Returns an empty text, or what is wrong in one line.
+    QString parse(const QByteArray &xml);
+};

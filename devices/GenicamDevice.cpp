@@ -1,0 +1,475 @@
+#include <arv.h> // before Qt
+
+#include "GenicamDevice.h"
+
+#include "BuiltInCamera.h"
+
+#include <QFile>
+#include <QFileInfo>
+
+#include <chrono>
+#include <cmath>
+#include <limits>
+
+namespace {
+
+constexpr qint64 kMaxDescription = 16 * 1024 * 1024; // bytes
+
+/// An error as Aravis reports it, freed by itself.
+struct Failure
+{
+    Failure() = default;
+    ~Failure() { clear(); }
+    Q_DISABLE_COPY(Failure)
+
+    GError **slot()
+    {
+        clear();
+        return &error;
+    }
+    void clear() { g_clear_error(&error); }
+    explicit operator bool() const { return error; }
+    bool isRule() const { return error && error->domain == ARV_GC_ERROR; }
+    bool isAbsence() const { return isRule() && error->code == ARV_GC_ERROR_PROPERTY_NOT_DEFINED; }
+    QString text() const { return error ? QString::fromUtf8(error->message) : QString(); }
+
+    GError *error = nullptr;
+};
+
+RuvoNodeType typeOf(ArvGcNode *node)
+{
+    // An enumeration also is an integer and a string.
+    if (ARV_IS_GC_ENUMERATION(node)) {
+        return RuvoNodeEnumeration;
+    }
+    if (ARV_IS_GC_COMMAND(node)) {
+        return RuvoNodeCommand;
+    }
+    if (ARV_IS_GC_BOOLEAN(node)) {
+        return RuvoNodeBoolean;
+    }
+    if (ARV_IS_GC_STRING(node)) {
+        return RuvoNodeString;
+    }
+    if (ARV_IS_GC_INTEGER(node)) {
+        return RuvoNodeInteger;
+    }
+    return ARV_IS_GC_FLOAT(node) ? RuvoNodeFloat : RuvoNodeUnknown;
+}
+
+/// The device's own function for this reports neither availability nor locks.
+RuvoNodeAccessMode accessModeOf(ArvGcNode *node)
+{
+    if (typeOf(node) == RuvoNodeUnknown) {
+        return RuvoNodeNotImplemented;
+    }
+    ArvGcFeatureNode *feature = ARV_GC_FEATURE_NODE(node);
+    Failure failure;
+    const bool implemented = arv_gc_feature_node_is_implemented(feature, failure.slot());
+    if (failure) {
+        return RuvoNodeNotAvailable;
+    }
+    if (!implemented) {
+        return RuvoNodeNotImplemented;
+    }
+    if (!arv_gc_feature_node_is_available(feature, failure.slot()) || failure) {
+        return RuvoNodeNotAvailable;
+    }
+    const bool locked = arv_gc_feature_node_is_locked(feature, failure.slot()) || failure;
+    const ArvGcAccessMode mode = ARV_IS_GC_COMMAND(node) ? ARV_GC_ACCESS_MODE_WO
+                                                         : arv_gc_feature_node_get_actual_access_mode(feature);
+    switch (mode) {
+    case ARV_GC_ACCESS_MODE_RO:
+        return RuvoNodeReadOnly;
+    case ARV_GC_ACCESS_MODE_WO:
+        return locked ? RuvoNodeNotAvailable : RuvoNodeWriteOnly;
+    case ARV_GC_ACCESS_MODE_RW:
+        return locked ? RuvoNodeReadOnly : RuvoNodeReadWrite;
+    case ARV_GC_ACCESS_MODE_UNDEFINED:
+        break;
+    }
+    return RuvoNodeNotAvailable;
+}
+
+int toInt(gint64 value)
+{
+    return int(qBound<gint64>(std::numeric_limits<int>::min(), value, std::numeric_limits<int>::max()));
+}
+
+/// A register without a sign and without a maximum of its own reports what its 32 bits hold. That is no limit
+/// anyone set, and -1 is how the host spells "no maximum".
+int toMaximum(gint64 maximum)
+{
+    return maximum == std::numeric_limits<quint32>::max() ? -1 : toInt(maximum);
+}
+
+float toFloat(double value)
+{
+    constexpr double limit = std::numeric_limits<float>::max();
+    return float(qBound(-limit, value, limit));
+}
+
+/// The step of a node that gives none: the power of ten that makes about a thousand steps of its range, or 1
+/// where the range is none to speak of.
+double stepFor(double minimum, double maximum)
+{
+    const double range = maximum - minimum;
+    return range > 0 && range <= 1e6 ? std::pow(10.0, std::floor(std::log10(range / 1000))) : 1;
+}
+
+qint64 realTime()
+{
+    using namespace std::chrono;
+    return duration_cast<milliseconds>(steady_clock::now().time_since_epoch()).count();
+}
+
+QString readDescription(const QString &fileName, QByteArray *bytes)
+{
+    QFile file(fileName);
+    if (!QFileInfo(fileName).isFile()) { // a pipe would keep us waiting
+        return QStringLiteral("there is no such file");
+    }
+    if (!file.open(QIODevice::ReadOnly)) {
+        return file.errorString();
+    }
+    *bytes = file.read(kMaxDescription + 1);
+    if (file.error() != QFileDevice::NoError) {
+        return file.errorString();
+    }
+    if (bytes->size() > kMaxDescription) {
+        return QStringLiteral("the file is too large");
+    }
+    return bytes->isEmpty() ? QStringLiteral("the file is empty") : QString();
+}
+
+} // namespace
+
+struct GenicamDevice::Private
+{
+    explicit Private(ArvDevice *opened) : device(opened) {}
+    ~Private() { g_object_unref(device); }
+    Q_DISABLE_COPY(Private)
+
+    ArvGcNode *node(const QString &name) const
+    {
+        return arv_device_get_feature(device, name.toUtf8().constData());
+    }
+
+    long fail(Status status, const QString &name, const QString &why)
+    {
+        error = QStringLiteral("%1: %2").arg(name, why);
+        return status;
+    }
+
+    /// Whether the node is of the type and can be accessed now: each caller asks before it touches the node,
+    /// because Aravis writes into locked and unavailable nodes without a word.
+    long check(const QString &name, RuvoNodeType type, bool toWrite)
+    {
+        ArvGcNode *const found = node(name);
+        if (typeOf(found) != type) {
+            return fail(NoSuchNode, name, QStringLiteral("no such node of this type"));
+        }
+        const RuvoNodeAccessMode mode = accessModeOf(found);
+        const bool allowed = mode == RuvoNodeReadWrite || mode == (toWrite ? RuvoNodeWriteOnly : RuvoNodeReadOnly);
+        return allowed ? long(Ok) : fail(NoAccess, name, toWrite ? QStringLiteral("cannot be written now")
+                                                                 : QStringLiteral("cannot be read now"));
+    }
+    long readable(const QString &name, RuvoNodeType type) { return check(name, type, false); }
+    long writable(const QString &name, RuvoNodeType type) { return check(name, type, true); }
+
+    long readResult(const QString &name, const Failure &failure)
+    {
+        return failure ? fail(DeviceFailure, name, failure.text()) : long(Ok);
+    }
+
+    /// A refusal by GenICam's own rules is about the value, everything else about the device.
+    long writeResult(const QString &name, const Failure &failure)
+    {
+        return failure ? fail(failure.isRule() ? InvalidValue : DeviceFailure, name, failure.text()) : long(Ok);
+    }
+
+    /// Range and increment of an integer or a float. A node may do without; Aravis answers that with a default
+    /// for some kinds of nodes and with an error for others.
+    template <typename T>
+    void readLimits(void (*readBounds)(ArvDevice *, const char *, T *, T *, GError **),
+                    T (*readIncrement)(ArvDevice *, const char *, GError **),
+                    const QByteArray &name, T &minimum, T &maximum, T &increment, Failure &failure) const
+    {
+        readBounds(device, name.constData(), &minimum, &maximum, failure.slot());
+        if (failure.isAbsence()) {
+            minimum = std::numeric_limits<T>::lowest();
+            maximum = std::numeric_limits<T>::max();
+        } else if (failure) {
+            return;
+        }
+        increment = readIncrement(device, name.constData(), failure.slot());
+        if (failure.isAbsence()) {
+            increment = 0;
+            failure.clear();
+        }
+    }
+    void readLimits(const QByteArray &name, gint64 &minimum, gint64 &maximum, gint64 &increment, Failure &failure) const
+    {
+        readLimits<gint64>(arv_device_get_integer_feature_bounds, arv_device_get_integer_feature_increment,
+                           name, minimum, maximum, increment, failure);
+    }
+    void readLimits(const QByteArray &name, double &minimum, double &maximum, double &increment, Failure &failure) const
+    {
+        readLimits<double>(arv_device_get_float_feature_bounds, arv_device_get_float_feature_increment,
+                           name, minimum, maximum, increment, failure);
+    }
+
+    long availableEntries(const QString &name, QList<QString> &entries)
+    {
+        Failure failure;
+        guint count = 0;
+        const char **const names = arv_device_dup_available_enumeration_feature_values_as_strings(
+            device, name.toUtf8().constData(), &count, failure.slot());
+        entries.clear();
+        for (guint i = 0; names && i < count; ++i) {
+            entries.append(QString::fromUtf8(names[i]));
+        }
+        g_free(names); // the array only: the texts are the nodes'
+        return readResult(name, failure);
+    }
+
+    ArvDevice *const device; // one reference is ours
+    QString error;
+};
+
+std::unique_ptr<GenicamDevice> GenicamDevice::openBuiltIn(const QString &descriptionFile, QString *error, Clock clock)
+{
+    Q_INIT_RESOURCE(smartcamera); // a static library does not do it by itself
+    const QString fileName = descriptionFile.isEmpty() ? QStringLiteral(":/devices/smartcamera.xml") : descriptionFile;
+    QByteArray description;
+    QString why = readDescription(fileName, &description);
+    ArvDevice *camera = nullptr;
+    if (why.isEmpty()) {
+        camera = newBuiltInCamera(description, clock ? std::move(clock) : Clock(realTime), &why);
+    }
+    std::unique_ptr<GenicamDevice> device = camera ? open(camera, &why) : nullptr;
+    if (!device && error) {
+        *error = QStringLiteral("%1: %2").arg(fileName, why.simplified());
+    }
+    return device;
+}
+
+std::unique_ptr<GenicamDevice> GenicamDevice::open(ArvDevice *device, QString *error)
+{
+    auto implementation = std::make_unique<Private>(device);
+    if (!ARV_IS_GC(arv_device_get_genicam(device))) {
+        if (error) {
+            *error = QStringLiteral("it does not describe itself");
+        }
+        return nullptr;
+    }
+    // Both are off unless asked for, and what breaks a rule then passes in silence.
+    arv_device_set_range_check_policy(device, ARV_RANGE_CHECK_POLICY_ENABLE);
+    arv_device_set_access_check_policy(device, ARV_ACCESS_CHECK_POLICY_ENABLE);
+    return std::unique_ptr<GenicamDevice>(new GenicamDevice(std::move(implementation)));
+}
+
+GenicamDevice::GenicamDevice(std::unique_ptr<Private> implementation)
+    : d(std::move(implementation))
+{
+}
+
+GenicamDevice::~GenicamDevice() = default;
+
+QString GenicamDevice::lastError() const
+{
+    return d->error;
+}
+
+long GenicamDevice::getParamInt(const QString &name, int &value, int &min, int &max, int &inc)
+{
+    if (const long status = d->readable(name, RuvoNodeInteger)) {
+        return status;
+    }
+    const QByteArray node = name.toUtf8();
+    Failure failure;
+    gint64 minimum = 0;
+    gint64 maximum = 0;
+    gint64 increment = 0;
+    value = toInt(arv_device_get_integer_feature_value(d->device, node.constData(), failure.slot()));
+    if (!failure) {
+        d->readLimits(node, minimum, maximum, increment, failure);
+    }
+    min = toInt(minimum);
+    max = toMaximum(maximum);
+    inc = toInt(qMax<gint64>(increment, 1));
+    return d->readResult(name, failure);
+}
+
+long GenicamDevice::getParamFloat(const QString &name, float &value, float &min, float &max, float &inc)
+{
+    if (const long status = d->readable(name, RuvoNodeFloat)) {
+        return status;
+    }
+    const QByteArray node = name.toUtf8();
+    Failure failure;
+    double minimum = 0;
+    double maximum = 0;
+    double increment = 0;
+    const double current = arv_device_get_float_feature_value(d->device, node.constData(), failure.slot());
+    if (!failure) {
+        d->readLimits(node, minimum, maximum, increment, failure);
+    }
+    if (failure) {
+        return d->readResult(name, failure);
+    }
+    if (!std::isfinite(current)) {
+        return d->fail(DeviceFailure, name, QStringLiteral("the device holds no number"));
+    }
+    // Where the default for "none" comes back it is the smallest double there is, which no float can hold.
+    const bool hasIncrement = increment >= double(std::numeric_limits<float>::min());
+    value = toFloat(current);
+    min = toFloat(minimum);
+    max = toFloat(maximum);
+    inc = toFloat(hasIncrement ? increment : stepFor(minimum, maximum));
+    return Ok;
+}
+
+long GenicamDevice::getParamBool(const QString &name, bool &value)
+{
+    if (const long status = d->readable(name, RuvoNodeBoolean)) {
+        return status;
+    }
+    Failure failure;
+    value = arv_device_get_boolean_feature_value(d->device, name.toUtf8().constData(), failure.slot());
+    return d->readResult(name, failure);
+}
+
+long GenicamDevice::getParamEnum(const QString &name, QString &value, QList<QString> &entries)
+{
+    if (const long status = d->readable(name, RuvoNodeEnumeration)) {
+        return status;
+    }
+    Failure failure;
+    const char *const current = arv_device_get_string_feature_value(d->device, name.toUtf8().constData(), failure.slot());
+    if (failure) {
+        return d->readResult(name, failure);
+    }
+    if (!current) {
+        return d->fail(DeviceFailure, name, QStringLiteral("the device holds no entry"));
+    }
+    value = QString::fromUtf8(current); // at once: the text is the node's, and its next read overwrites it
+    return d->availableEntries(name, entries);
+}
+
+long GenicamDevice::getParamString(const QString &name, QString &value)
+{
+    if (const long status = d->readable(name, RuvoNodeString)) {
+        return status;
+    }
+    Failure failure;
+    const char *const text = arv_device_get_string_feature_value(d->device, name.toUtf8().constData(), failure.slot());
+    if (failure || !text) { // after a failed read there is a text all the same, without an end
+        return d->fail(DeviceFailure, name, failure.text());
+    }
+    value = QString::fromUtf8(text);
+    return Ok;
+}
+
+long GenicamDevice::setParamInt(const QString &name, int value)
+{
+    if (const long status = d->writable(name, RuvoNodeInteger)) {
+        return status;
+    }
+    const QByteArray node = name.toUtf8();
+    Failure failure;
+    gint64 minimum = 0;
+    gint64 maximum = 0;
+    gint64 increment = 0;
+    d->readLimits(node, minimum, maximum, increment, failure);
+    if (failure) {
+        return d->readResult(name, failure);
+    }
+    // Only the range is checked for us. Unsigned, because the distance from the smallest minimum does not fit otherwise.
+    if (increment > 1 && (quint64(value) - quint64(minimum)) % quint64(increment) != 0) {
+        return d->fail(InvalidValue, name, QStringLiteral("%1 is not a multiple of %2 above the minimum").arg(value).arg(increment));
+    }
+    arv_device_set_integer_feature_value(d->device, node.constData(), value, failure.slot());
+    return d->writeResult(name, failure);
+}
+
+long GenicamDevice::setParamFloat(const QString &name, float value)
+{
+    if (const long status = d->writable(name, RuvoNodeFloat)) {
+        return status;
+    }
+    if (!std::isfinite(value)) { // which is within every range
+        return d->fail(InvalidValue, name, QStringLiteral("not a number"));
+    }
+    const QByteArray node = name.toUtf8();
+    Failure failure;
+    double minimum = 0;
+    double maximum = 0;
+    double increment = 0; // is advice for a float, not a rule
+    d->readLimits(node, minimum, maximum, increment, failure);
+    if (failure) {
+        return d->readResult(name, failure);
+    }
+    // A bound that we handed out as a float may have been rounded to the far side of itself.
+    double exact = double(value);
+    if (value == toFloat(maximum)) {
+        exact = maximum;
+    } else if (value == toFloat(minimum)) {
+        exact = minimum;
+    }
+    arv_device_set_float_feature_value(d->device, node.constData(), exact, failure.slot());
+    return d->writeResult(name, failure);
+}
+
+long GenicamDevice::setParamBool(const QString &name, bool value)
+{
+    if (const long status = d->writable(name, RuvoNodeBoolean)) {
+        return status;
+    }
+    Failure failure;
+    arv_device_set_boolean_feature_value(d->device, name.toUtf8().constData(), value, failure.slot());
+    return d->writeResult(name, failure);
+}
+
+long GenicamDevice::setParamEnum(const QString &name, const QString &value)
+{
+    if (const long status = d->writable(name, RuvoNodeEnumeration)) {
+        return status;
+    }
+    Failure failure; // also for an entry that is not available now
+    arv_device_set_string_feature_value(d->device, name.toUtf8().constData(), value.toUtf8().constData(), failure.slot());
+    return d->writeResult(name, failure);
+}
+
+long GenicamDevice::setParamString(const QString &name, const QString &value)
+{
+    if (const long status = d->writable(name, RuvoNodeString)) {
+        return status;
+    }
+    if (value.contains(QChar(QChar::Null))) { // the device would take the text for ended there
+        return d->fail(InvalidValue, name, QStringLiteral("the text contains a NUL"));
+    }
+    Failure failure;
+    arv_device_set_string_feature_value(d->device, name.toUtf8().constData(), value.toUtf8().constData(), failure.slot());
+    return d->writeResult(name, failure);
+}
+
+long GenicamDevice::executeCMD(const QString &name)
+{
+    if (const long status = d->writable(name, RuvoNodeCommand)) {
+        return status;
+    }
+    Failure failure;
+    arv_device_execute_command(d->device, name.toUtf8().constData(), failure.slot());
+    return d->writeResult(name, failure);
+}
+
+RuvoNodeType GenicamDevice::getNodeType(const QString &name)
+{
+    return typeOf(d->node(name));
+}
+
+RuvoNodeAccessMode GenicamDevice::getNodeAccessMode(const QString &name)
+{
+    return accessModeOf(d->node(name));
+}

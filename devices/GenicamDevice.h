@@ -1,0 +1,67 @@
+#pragma once
+
+#include "VyViewerCore/Device.h"
+
+#include <QtGlobal>
+
+#include <functional>
+#include <memory>
+
+typedef struct _ArvDevice ArvDevice;
+
+/// A GenICam device, or its simulation inside this process, as the host sees it.
+///
+/// Beyond what Device promises, every call first looks at the node's access mode: what is not readable is not
+/// read, and nothing is written that is locked, unavailable, out of range, off its increment or no entry of
+/// now. Not thread-safe: one thread per device.
+class GenicamDevice final : public Device
+{
+public:
+    enum Status : long {
+        Ok = 0,
+        NoSuchNode,    ///< no node of that name, or it is of another type
+        NoAccess,      ///< the node cannot be read, written or executed at this moment
+        InvalidValue,  ///< out of range, off the increment, not an available entry, too long
+        DeviceFailure  ///< the device did not answer, or not with a value of the node's type
+    };
+
+    /// Milliseconds from any fixed moment; never runs backwards.
+    using Clock = std::function<qint64()>;
+
+    /// The simulated camera. An empty file name stands for the built-in description; `clock` replaces the
+    /// real time by which it triggers itself. Returns null, and the reason in one line, when the description
+    /// cannot be used.
+    static std::unique_ptr<GenicamDevice> openBuiltIn(const QString &descriptionFile, QString *error,
+                                                      Clock clock = {});
+
+    /// Any opened device; takes over the caller's reference. Returns null, and the reason, for one that
+    /// describes no node of a type we know.
+    static std::unique_ptr<GenicamDevice> open(ArvDevice *device, QString *error);
+
+    ~GenicamDevice() override;
+
+    /// Why the last failed call failed, in words for the log or the status bar.
+    QString lastError() const;
+
+    long getParamInt(const QString &name, int &value, int &min, int &max, int &inc) override;
+    long getParamFloat(const QString &name, float &value, float &min, float &max, float &inc) override;
+    long getParamBool(const QString &name, bool &value) override;
+    long getParamEnum(const QString &name, QString &value, QList<QString> &entries) override;
+    long getParamString(const QString &name, QString &value) override;
+
+    long setParamInt(const QString &name, int value) override;
+    long setParamFloat(const QString &name, float value) override;
+    long setParamBool(const QString &name, bool value) override;
+    long setParamEnum(const QString &name, const QString &value) override;
+    long setParamString(const QString &name, const QString &value) override;
+    long executeCMD(const QString &name) override;
+
+    RuvoNodeType getNodeType(const QString &name) override;
+    RuvoNodeAccessMode getNodeAccessMode(const QString &name) override;
+
+private:
+    struct Private;
+    explicit GenicamDevice(std::unique_ptr<Private> implementation);
+
+    const std::unique_ptr<Private> d;
+};
