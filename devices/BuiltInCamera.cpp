@@ -191,7 +191,7 @@ QString writePowerUpValue(ArvGc *gc, const QByteArray &name, const QByteArray &t
     if (!failure) {
         return QString();
     }
-    const QString error = QStringLiteral("the power-up value of %1: %2").arg(QString::fromUtf8(name), QString::fromUtf8(failure->message));
+    QString error = QStringLiteral("the power-up value of %1: %2").arg(QString::fromUtf8(name), QString::fromUtf8(failure->message));
     g_error_free(failure);
     return error;
 }
@@ -205,7 +205,7 @@ QString switchOn(ArvDevice *device, const CameraDescription &description, Camera
     }
     arv_gc_set_range_check_policy(camera.genicam, ARV_RANGE_CHECK_POLICY_ENABLE);
     for (const auto &value : description.powerUp) {
-        const QString error = writePowerUpValue(camera.genicam, value.first, value.second);
+        QString error = writePowerUpValue(camera.genicam, value.first, value.second);
         if (!error.isEmpty()) {
             return error;
         }

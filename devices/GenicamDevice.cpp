@@ -13,7 +13,7 @@
 
 namespace {
 
-constexpr qint64 kMaxDescription = 16 * 1024 * 1024; // bytes
+constexpr qint64 kMaxDescription = qint64(16) * 1024 * 1024; // bytes
 
 /// An error as Aravis reports it, freed by itself.
 struct Failure

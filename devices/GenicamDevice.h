@@ -7,7 +7,7 @@
 #include <functional>
 #include <memory>
 
-typedef struct _ArvDevice ArvDevice;
+typedef struct _ArvDevice ArvDevice; // NOLINT(bugprone-reserved-identifier): the name is Aravis'
 
 /// A GenICam device, or its simulation inside this process, as the host sees it.
 ///

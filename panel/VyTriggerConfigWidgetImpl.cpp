@@ -17,7 +17,7 @@ using namespace VyViewer;
 
 namespace {
 
-constexpr QLatin1String kModeNode("InputTriggerMode");
+constexpr char kModeNode[] = "InputTriggerMode";
 
 IDeviceManager *devices()
 {
@@ -107,12 +107,12 @@ void VyTriggerConfigWidgetImpl::showEvent(QShowEvent *event)
     if (m_device) {
         // The trigger mode is locked while images are acquired, so its access mode tells, whether or not the
         // host has signalled the state that holds now.
-        const bool acquiring = devices()->getNodeAccessMode(m_device, kModeNode) != RuvoNodeReadWrite;
+        const bool acquiring = devices()->getNodeAccessMode(m_device, QLatin1String(kModeNode)) != RuvoNodeReadWrite;
         onUpdateDeviceGrabStatus(m_device, acquiring ? 1 : 0);
 
         QString mode;
         QList<QString> modes;
-        devices()->getParamEnum(m_device, kModeNode, mode, modes);
+        devices()->getParamEnum(m_device, QLatin1String(kModeNode), mode, modes);
         holdTriggerRefresh(mode == QLatin1String("Hold"));
     }
     QWidget::showEvent(event);
@@ -153,7 +153,8 @@ void VyTriggerConfigWidgetImpl::buildBlocks()
 void VyTriggerConfigWidgetImpl::orderTabStops()
 {
     QWidget *last = m_triggerPage->findChildren<ParamPageWidgetItem *>().constLast();
-    for (QWidget *button : m_stopBlock->findChildren<QWidget *>()) {
+    const QList<QWidget *> buttons = m_stopBlock->findChildren<QWidget *>();
+    for (QWidget *button : buttons) {
         if (button->focusPolicy() & Qt::TabFocus) {
             KeyboardFocus::placeBehind(last, button);
             last = button;

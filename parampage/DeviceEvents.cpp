@@ -11,7 +11,7 @@ using VyViewer::CoreEventBus;
 using VyViewer::Singleton;
 
 namespace {
-constexpr QLatin1String kDeviceKey("IDevice");
+constexpr char kDeviceKey[] = "IDevice";
 }
 
 DeviceEvents::~DeviceEvents()
@@ -32,12 +32,12 @@ CoreEvent *DeviceEvents::subscribe(const QString &name)
 
 QVariantMap DeviceEvents::payload(Device *device)
 {
-    return {{kDeviceKey, QVariant::fromValue<IDevice>(device)}};
+    return {{QLatin1String(kDeviceKey), QVariant::fromValue<IDevice>(device)}};
 }
 
 bool DeviceEvents::concern(const QVariantMap &payload, const Device *device)
 {
-    return device && payload.value(kDeviceKey).value<IDevice>() == device;
+    return device && payload.value(QLatin1String(kDeviceKey)).value<IDevice>() == device;
 }
 
 void DeviceEvents::post(const QString &name, const QVariantMap &payload)

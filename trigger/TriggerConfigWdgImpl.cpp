@@ -13,8 +13,8 @@ using namespace VyViewer;
 
 namespace {
 
-constexpr QLatin1String kModeNode("InputTriggerMode");
-constexpr QLatin1String kSourceNode("InputTriggerSource");
+constexpr char kModeNode[] = "InputTriggerMode";
+constexpr char kSourceNode[] = "InputTriggerSource";
 
 using Source = CommandSource;
 enum class Role { Plain, Title, TriggerMode, TriggerSource, Format, Command };
@@ -90,10 +90,10 @@ void TriggerConfigWdgImpl::updateSourceTitles()
     for (const Title &title : qAsConst(m_titles)) {
         title.widget->hide();
     }
-    if (currentEntry(kModeNode) == QLatin1String("None")) {
+    if (currentEntry(QLatin1String(kModeNode)) == QLatin1String("None")) {
         return;
     }
-    const QString source = currentEntry(kSourceNode);
+    const QString source = currentEntry(QLatin1String(kSourceNode));
     for (const Title &title : qAsConst(m_titles)) {
         if (source == QLatin1String(title.source)) {
             title.widget->show();
@@ -155,7 +155,7 @@ void TriggerConfigWdgImpl::changeEvent(QEvent *event)
 
 void TriggerConfigWdgImpl::onTriggerModeChange()
 {
-    const QString mode = currentEntry(kModeNode);
+    const QString mode = currentEntry(QLatin1String(kModeNode));
     Q_EMIT triggerModeHoldRefresh(mode == QLatin1String("Hold"));
 
     QVariantMap payload = DeviceEvents::payload(m_device);

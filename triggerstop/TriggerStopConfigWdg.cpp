@@ -202,8 +202,9 @@ void TriggerStopConfigWdg::buildTitle()
     showTitle();
     m_title->setCheckBoxVisible(false);
     m_title->setDeleteButtonVisible(m_number != 1); // the first configuration is always on
+    // Unique like every connection to the kit's title; a no-op for a function object, which is made only once.
     connect(m_title, &VyMultiCheckTitleWidget::deleteButtonClicked, this, [this] { deleteStopConfig(); },
-            Qt::UniqueConnection);
+            Qt::UniqueConnection); // clazy:exclude=lambda-unique-connection
     addItem(m_title);
 }
 

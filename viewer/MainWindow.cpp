@@ -27,8 +27,8 @@ using VyViewer::Singleton;
 namespace {
 
 constexpr int kMessageTime = 8000; // milliseconds that a message stays in the status bar
-constexpr QLatin1String kModeNode("InputTriggerMode");
-constexpr QLatin1String kUserSetNode("UserSetSelector");
+constexpr char kModeNode[] = "InputTriggerMode";
+constexpr char kUserSetNode[] = "UserSetSelector";
 
 IDeviceManager *devices()
 {
@@ -60,7 +60,7 @@ MainWindow::MainWindow(Device *device, const QString &language)
     m_panel->setVyDevice(device);
     setCentralWidget(m_panel);
     statusBar()->addPermanentWidget(m_state);
-    const QSize wanted(fontMetrics().averageCharWidth() * 80, fontMetrics().height() * 45);
+    const QSize wanted(fontMetrics().averageCharWidth() * 92, fontMetrics().height() * 45);
     resize(wanted.boundedTo(QGuiApplication::primaryScreen()->availableSize()));
     buildActions();
     setLanguage(language);
@@ -91,8 +91,8 @@ void MainWindow::buildActions()
     connect(m_start, &QAction::triggered, this, [this] { setAcquiring(true); });
     connect(m_stop, &QAction::triggered, this, [this] { setAcquiring(false); });
     connect(m_quit, &QAction::triggered, this, &QWidget::close);
-    fillMenu(m_userSetMenu, kUserSetNode, &MainWindow::loadUserSet);
-    fillMenu(m_modeMenu, kModeNode, &MainWindow::setTriggerMode);
+    fillMenu(m_userSetMenu, QLatin1String(kUserSetNode), &MainWindow::loadUserSet);
+    fillMenu(m_modeMenu, QLatin1String(kModeNode), &MainWindow::setTriggerMode);
 
     m_cameraMenu->addActions({m_start, m_stop});
     m_cameraMenu->addSeparator();
@@ -163,7 +163,8 @@ void MainWindow::setLanguage(const QString &code)
     }
     const QString shown = m_translator->isEmpty() || locale.language() == QLocale::English
                               ? QStringLiteral("en") : locale.name().left(2);
-    for (QAction *action : m_languageMenu->actions()) {
+    const QList<QAction *> actions = m_languageMenu->actions();
+    for (QAction *action : actions) {
         action->setChecked(action->data().toString() == shown);
     }
 }
@@ -184,7 +185,7 @@ void MainWindow::setAcquiring(bool start)
 void MainWindow::loadUserSet(const QString &set)
 {
     commitPendingEdit();
-    long status = devices()->setParamEnum(m_device, kUserSetNode, set);
+    long status = devices()->setParamEnum(m_device, QLatin1String(kUserSetNode), set);
     if (status == 0) {
         status = devices()->executeCMD(m_device, QStringLiteral("UserSetLoad"));
     }
@@ -198,7 +199,7 @@ void MainWindow::loadUserSet(const QString &set)
 void MainWindow::setTriggerMode(const QString &mode)
 {
     commitPendingEdit();
-    const long status = devices()->setParamEnum(m_device, kModeNode, mode);
+    const long status = devices()->setParamEnum(m_device, QLatin1String(kModeNode), mode);
     if (status == 0) {
         const QString state = mode == QLatin1String("None") ? QStringLiteral("Off") : QStringLiteral("On");
         Singleton<CoreEventBus>::getInstance()->post(

@@ -48,7 +48,7 @@ Options Options::parse(const QStringList &arguments)
         std::exit(0);
     }
     if (!parser.positionalArguments().isEmpty()) {
-        fail(QStringLiteral("Unexpected argument '%1'.").arg(parser.positionalArguments().first()));
+        fail(QStringLiteral("Unexpected argument '%1'.").arg(parser.positionalArguments().constFirst()));
     }
 
     Options options;
@@ -64,7 +64,8 @@ Options Options::parse(const QStringList &arguments)
     if (parser.isSet(language) && options.language != QLatin1String("en") && options.language != QLatin1String("de")) {
         fail(QStringLiteral("--language knows en and de, not '%1'.").arg(options.language));
     }
-    for (const QString &setting : parser.values(set)) {
+    const QStringList settings = parser.values(set);
+    for (const QString &setting : settings) {
         const int separator = setting.indexOf(QLatin1Char('='));
         if (separator < 1) {
             fail(QStringLiteral("--set needs NODE=VALUE, not '%1'.").arg(setting));

@@ -56,7 +56,8 @@ bool LightGround::eventFilter(QObject *watched, QEvent *event)
 {
     // When it is polished a child is complete, and a style sheet has had its say.
     if (event->type() == QEvent::ChildPolished) {
-        if (auto *const child = qobject_cast<QWidget *>(static_cast<QChildEvent *>(event)->child())) {
+        QObject *const polished = static_cast<QChildEvent *>(event)->child();
+        if (auto *const child = qobject_cast<QWidget *>(polished)) { // clazy:exclude=child-event-qobject-cast
             adopt(child);
         }
     }
