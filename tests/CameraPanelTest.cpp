@@ -1,0 +1,221 @@
+#include "PanelProbe.h"
+
+#include "devices/GenicamDevice.h"
+#include "panel/VyTriggerConfigWdg.h"
+#include "parampage/DeviceEvents.h"
+#include "triggerstop/TriggerStopConfigWdg.h"
+
+#include <VyCommonGUI/VyBlockWidget.h>
+#include <VyCommonGUI/VyDoubleSpinBox.h>
+#include <VyCommonGUI/VyLineEdit.h>
+#include <VyCommonGUI/VySpinBox.h>
+#include <VyCommonGUI/VyToggleSwitch.h>
+#include <VyViewerCore/IDeviceManager.h>
+
+#include <QFile>
+#include <QPushButton>
+#include <QtTest>
+
+#include <memory>
+
+using namespace PanelProbe;
+using namespace VyViewer;
+
+/// The panel on the simulated camera, operated as a user would.
+class CameraPanelTest : public QObject
+{
+    Q_OBJECT
+
+    bool shown(const char *node) const { return row(m_panel.get(), QString::fromLatin1(node))->isVisible(); }
+    template <typename Editor>
+    Editor *editorOf(const char *node) const
+    {
+        return editor<Editor>(m_panel.get(), node);
+    }
+    void set(const char *node, const char *entry) const
+    {
+        choose(m_panel.get(), node, entry);
+        QCOMPARE(editorOf<VyComboBox>(node)->currentText(), QString::fromLatin1(entry));
+    }
+    void type(QWidget *into, const char *keys) const
+    {
+        QCoreApplication::processEvents();
+        into->setFocus();
+        QTest::keyClick(into, Qt::Key_A, Qt::ControlModifier);
+        QTest::keyClicks(into, QString::fromLatin1(keys));
+        QTest::keyClick(into, Qt::Key_Return);
+    }
+    VyBlockWidget *stopBlock() const { return m_panel->findChildren<VyBlockWidget *>().at(1); }
+    TriggerStopConfigWdg *stopPage(int number) const
+    {
+        return m_panel->findChildren<TriggerStopConfigWdg *>().at(number - 1);
+    }
+    void acquire(bool start) const
+    {
+        auto *const manager = Singleton<IDeviceManager>::getInstance();
+        QCOMPARE(manager->executeCMD(m_camera.get(), start ? QStringLiteral("AcquisitionStart")
+                                                           : QStringLiteral("AcquisitionStop")), 0L);
+        Q_EMIT manager->deviceGrabStatusUpdate(m_camera.get(), start ? 1 : 0);
+    }
+
+    std::unique_ptr<GenicamDevice> m_camera;
+    std::unique_ptr<VyTriggerConfigWdg> m_panel;
+
+private Q_SLOTS:
+    void init()
+    {
+        QString error;
+        m_camera = GenicamDevice::openBuiltIn({}, &error);
+        QVERIFY2(m_camera, qPrintable(error));
+        m_panel = std::make_unique<VyTriggerConfigWdg>();
+        m_panel->setVyDevice(m_camera.get());
+        m_panel->show();
+        m_panel->activateWindow();
+        QVERIFY(QTest::qWaitForWindowActive(m_panel.get()));
+    }
+    void cleanup()
+    {
+        m_panel.reset();
+        m_camera.reset();
+    }
+
+    void theCameraKnowsEveryRow()
+    {
+        for (const auto *parameter : m_panel->findChildren<ParamPageWidgetItem *>()) {
+            QVERIFY2(m_camera->getNodeType(parameter->objectName()) != RuvoNodeUnknown,
+                     qPrintable(parameter->objectName()));
+        }
+    }
+
+    void sectionsFollowTheSource()
+    {
+        const struct
+        {
+            const char *source;
+            const char *title;
+            const char *node;
+        } sections[] = {{"TcpServer", "TCP Server", "TriggerTcpServerPort"},
+                        {"TcpClient", "TCP Client", "TriggerTcpClientServerIp"},
+                        {"Udp", "UDP", "TriggerUdpPort"},
+                        {"RS-232", "RS-232", "TriggerSerialPortBaudrate"},
+                        {"AutoTrigger", "Auto Trigger", "TriggerAutoInterval"},
+                        {"SensingTrigger", "Sensing Trigger", "TriggerSensingSensitivity"}};
+        QVERIFY(shown("InputSoftwareTrigger"));
+        QVERIFY(shownTitles(m_panel.get()).isEmpty());
+        for (const auto &section : sections) {
+            QVERIFY(!shown(section.node));
+            set("InputTriggerSource", section.source);
+            QVERIFY(shown(section.node));
+            QCOMPARE(shownTitles(m_panel.get()), QStringList{QString::fromLatin1(section.title)});
+        }
+        QVERIFY(!shown("InputSoftwareTrigger"));
+        set("InputTriggerMode", "None");
+        QVERIFY(!shown("TriggerSensingSensitivity"));
+        QVERIFY(shownTitles(m_panel.get()).isEmpty());
+    }
+
+    void everyKindOfEditorReachesTheCamera()
+    {
+        set("InputTriggerSource", "TcpServer");
+        type(editorOf<VySpinBox>("TriggerTcpServerPort"), "4711");
+        type(editorOf<VyDoubleSpinBox>("InputTriggerDelay"), "12.3");
+        type(editorOf<VyLineEdit>("TriggerTcpServerStartCMD"), "go");
+        QTest::mouseClick(editorOf<VyToggleSwitch>("TriggerTcpServerCMDFuzzyMatching"), Qt::LeftButton);
+        set("InputTriggerSource", "SoftwareTrigger");
+        QCoreApplication::processEvents();
+        QTest::mouseClick(editorOf<QPushButton>("InputSoftwareTrigger"), Qt::LeftButton);
+
+        QCOMPARE(editorOf<VyDoubleSpinBox>("InputTriggerDelay")->text(), QStringLiteral("12.300"));
+        int value = 0;
+        int min = 0;
+        int max = 0;
+        int inc = 0;
+        QCOMPARE(m_camera->getParamInt(QStringLiteral("TriggerCount"), value, min, max, inc), 0L);
+        QCOMPARE(value, 1);
+        set("InputTriggerSource", "TcpServer");
+        QCOMPARE(editorOf<VySpinBox>("TriggerTcpServerPort")->value(), 4711);
+        QCOMPARE(editorOf<VyLineEdit>("TriggerTcpServerStartCMD")->text(), QStringLiteral("go"));
+        QVERIFY(editorOf<VyToggleSwitch>("TriggerTcpServerCMDFuzzyMatching")->getIsToggled());
+    }
+
+    void hexCommandsRefuseLetters()
+    {
+        set("InputTriggerMode", "Hold");
+        set("InputTriggerSource", "TcpServer");
+        set("TriggerStopConfig1Condtion", "Command");
+        // The stop commands of the TCP server share its port and format.
+        QVERIFY(!shown("TriggerStopConfig1TcpServerCMDFormat"));
+        set("TriggerTcpServerCMDFormat", "Hex");
+        for (const char *command : {"TriggerTcpServerStartCMD", "TriggerStopConfig1TcpServerStopCMD"}) {
+            type(editorOf<VyLineEdit>(command), "4xG1");
+            QCOMPARE(editorOf<VyLineEdit>(command)->text(), QStringLiteral("41"));
+        }
+    }
+
+    void stopConfigurationsComeAndGo()
+    {
+        QVERIFY(!stopBlock()->isVisible());
+        set("InputTriggerMode", "Hold");
+        QVERIFY(stopBlock()->isVisible());
+        QCOMPARE(shownTitles(m_panel.get()), QStringList{QStringLiteral("Config 1")});
+        click(stopBlock(), "Add");
+        QCOMPARE(shownTitles(m_panel.get()).last(), QStringLiteral("Config 2"));
+        QVERIFY(editorOf<VySpinBox>("TriggerStopConfig2FrameCount")->maximum() == std::numeric_limits<int>::max());
+        type(editorOf<VySpinBox>("TriggerStopConfig2FrameCount"), "12");
+        set("TriggerStopConfig2Condtion", "Duration");
+        QVERIFY(!shown("TriggerStopConfig2FrameCount"));
+        QVERIFY(shown("TriggerStopConfig2Duration"));
+
+        acquire(true);
+        QVERIFY(!editorOf<VyComboBox>("InputTriggerMode")->isEnabled());
+        QVERIFY(!editorOf<VyComboBox>("TriggerStopConfig2Condtion")->isEnabled());
+        click(stopBlock(), "Add");
+        click(stopPage(2), "Delete");
+        QCOMPARE(shownTitles(m_panel.get()).last(), QStringLiteral("Config 2"));
+        acquire(false);
+        QVERIFY(editorOf<VyComboBox>("InputTriggerMode")->isEnabled());
+        click(stopPage(2), "Delete");
+        QCOMPARE(shownTitles(m_panel.get()), QStringList{QStringLiteral("Config 1")});
+        click(stopBlock(), "Add");
+        set("TriggerStopConfig2Condtion", "FrameCount");
+        QCOMPARE(editorOf<VySpinBox>("TriggerStopConfig2FrameCount")->value(), 12);
+    }
+
+    void loadingAUserSetShowsIt()
+    {
+        set("InputTriggerMode", "Hold");
+        set("InputTriggerSource", "Udp");
+        type(editorOf<VySpinBox>("TriggerUdpPort"), "999");
+        auto *const manager = Singleton<IDeviceManager>::getInstance();
+        QCOMPARE(manager->setParamEnum(m_camera.get(), QStringLiteral("UserSetSelector"), QStringLiteral("Default")), 0L);
+        QCOMPARE(manager->executeCMD(m_camera.get(), QStringLiteral("UserSetLoad")), 0L);
+        DeviceEvents::post(QStringLiteral("UserSetLoad"), DeviceEvents::payload(m_camera.get()));
+        QVERIFY(!stopBlock()->isVisible());
+        QVERIFY(shown("InputSoftwareTrigger"));
+        set("InputTriggerSource", "Udp");
+        QVERIFY(editorOf<VySpinBox>("TriggerUdpPort")->value() != 999);
+    }
+
+    void everyEntryIsTranslated()
+    {
+        QFile file(QStringLiteral(TRANSLATIONS "/trigger_de.ts"));
+        QVERIFY(file.open(QIODevice::ReadOnly));
+        const QString texts = QString::fromUtf8(file.readAll());
+        set("InputTriggerMode", "Hold");
+        for (const char *source : {"TcpServer", "TcpClient", "Udp", "RS-232"}) {
+            set("InputTriggerSource", source);
+            set("TriggerStopConfig1Condtion", "Command");
+            for (const auto *combo : m_panel->findChildren<VyComboBox *>()) {
+                for (int i = 0; i < combo->count(); ++i) {
+                    bool isNumber = false;
+                    combo->itemText(i).toDouble(&isNumber);
+                    QVERIFY2(isNumber || texts.contains(QStringLiteral("<source>%1</source>").arg(combo->itemText(i))),
+                             qPrintable(combo->itemText(i)));
+                }
+            }
+        }
+    }
+};
+
+QTEST_MAIN(CameraPanelTest)
+#include "CameraPanelTest.moc"
