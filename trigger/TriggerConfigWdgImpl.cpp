@@ -207,17 +207,17 @@ void TriggerConfigWdgImpl::subscribe()
 
 void TriggerConfigWdgImpl::buildRows()
 {
-    for (const RowSpec &spec : kRows) {
-        if (spec.role == Role::Title) {
-            addTitle(spec.node, spec.label);
+    for (const RowSpec &entry : kRows) {
+        if (entry.role == Role::Title) {
+            addTitle(entry.node, entry.label);
             continue;
         }
-        auto *const row = new ParamPageWidgetItem(m_device, QString::fromLatin1(spec.label),
-                                                  QString::fromLatin1(spec.node), this);
+        auto *const row = new ParamPageWidgetItem(m_device, QString::fromLatin1(entry.label),
+                                                  QString::fromLatin1(entry.node), this);
         // First, so that all rows are refreshed when the handlers below run.
         addItem(row);
-        const Source source = spec.source;
-        switch (spec.role) {
+        const Source source = entry.source;
+        switch (entry.role) {
         case Role::TriggerMode:
             connect(row, &ParamPageWidgetItem::valueChanged, this, &TriggerConfigWdgImpl::onTriggerModeChange);
             break;

@@ -210,13 +210,13 @@ void TriggerStopConfigWdg::buildTitle()
 
 void TriggerStopConfigWdg::buildRows()
 {
-    for (const RowSpec &spec : kRows) {
-        auto *const row = new ParamPageWidgetItem(m_device, QString::fromLatin1(spec.label),
-                                                  nodeName(spec.node), this);
+    for (const RowSpec &entry : kRows) {
+        auto *const row = new ParamPageWidgetItem(m_device, QString::fromLatin1(entry.label),
+                                                  nodeName(entry.node), this);
         // First, so that all rows are refreshed when the handlers below run.
         addItem(row);
-        const Source source = spec.source;
-        switch (spec.role) {
+        const Source source = entry.source;
+        switch (entry.role) {
         case Role::Condition:
             m_conditionRow = row;
             connect(row, &ParamPageWidgetItem::valueChanged, this,
@@ -249,8 +249,8 @@ QString TriggerStopConfigWdg::nodeName(const char *nodeTemplate) const
 
 void TriggerStopConfigWdg::updateCMDFormat(CommandSource source)
 {
-    const auto *const own = std::find_if(std::begin(kRows), std::end(kRows), [source](const RowSpec &spec) {
-        return spec.role == Role::Format && spec.source == source;
+    const auto *const own = std::find_if(std::begin(kRows), std::end(kRows), [source](const RowSpec &entry) {
+        return entry.role == Role::Format && entry.source == source;
     });
     QString node = nodeName(own->node);
     const RuvoNodeAccessMode mode = devices()->getNodeAccessMode(m_device, node);
