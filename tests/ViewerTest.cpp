@@ -58,6 +58,7 @@ private Q_SLOTS:
         row("no value to set", "--set InputTriggerMode", "InputTriggerMode");
         row("unknown node", "--set Bogus=1 --screenshot a.png", "Bogus");
         row("refused value", "--set InputTriggerMode=Bogus --screenshot a.png", "Bogus");
+        row("no truth", "--set InputKeyTrigger=maybe --screenshot a.png", "maybe");
         row("no number", "--set InputTriggerDelay=soon --screenshot a.png", "soon");
     }
     void badCallsAreOneLineAndStatus2()

@@ -5,10 +5,15 @@
 #include <cstdio>
 #include <cstdlib>
 
-void Options::fail(const QString &reason)
+int Options::complain(const QString &reason)
 {
     std::fprintf(stderr, "vyviewer: %s\n", qPrintable(reason));
-    std::exit(2);
+    return 2;
+}
+
+void Options::fail(const QString &reason)
+{
+    std::exit(complain(reason));
 }
 
 Options Options::parse(const QStringList &arguments)

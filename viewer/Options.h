@@ -16,6 +16,8 @@ struct Options
     /// Reads the command line (program name first). Where that settles the matter, as with --help or an unknown
     /// option, prints what there is to say and ends the process: status 0, or 2 for an error.
     static Options parse(const QStringList &arguments);
-    /// One line on the standard error output, and the end of the process with status 2.
+    /// One line on the standard error output; returns the exit status 2 that goes with it.
+    static int complain(const QString &reason);
+    /// The same, and the end of the process.
     [[noreturn]] static void fail(const QString &reason);
 };

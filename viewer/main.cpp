@@ -25,8 +25,10 @@ long setNode(Device &device, const QString &node, const QString &value)
         const float number = value.toFloat(&isNumber);
         return isNumber ? device.setParamFloat(node, number) : -1;
     }
-    case RuvoNodeBoolean:
-        return device.setParamBool(node, value == QLatin1String("true"));
+    case RuvoNodeBoolean: {
+        const bool on = value == QLatin1String("true");
+        return on || value == QLatin1String("false") ? device.setParamBool(node, on) : -1;
+    }
     case RuvoNodeEnumeration:
         return device.setParamEnum(node, value);
     case RuvoNodeCommand:
@@ -54,18 +56,15 @@ std::unique_ptr<GenicamDevice> openCamera(const Options &options)
     return camera;
 }
 
-int render(MainWindow &window, QSaveFile &file)
+bool render(MainWindow &window, QSaveFile &file)
 {
     window.show();
-    QCoreApplication::processEvents();
-    window.fitToPanel();
-    QCoreApplication::processEvents(); // the layout follows
-    window.fitToPanel();
-    QCoreApplication::processEvents();
-    if (!window.grab().save(&file, "PNG") || !file.commit()) {
-        Options::fail(QStringLiteral("cannot write %1: %2").arg(file.fileName(), file.errorString()));
+    for (int i = 0; i < 2; ++i) { // once more, when the layout has followed
+        QCoreApplication::processEvents();
+        window.fitToPanel();
     }
-    return 0;
+    QCoreApplication::processEvents();
+    return window.grab().save(&file, "PNG") && file.commit();
 }
 
 } // namespace
@@ -88,29 +87,24 @@ int main(int argc, char *argv[])
         qputenv("QT_QPA_PLATFORM", "xcb;wayland;offscreen");
     }
     QLoggingCategory::setFilterRules(QStringLiteral("qt.qpa.*=false\ndefault.warning=false"));
-    QSaveFile file(options.screenshot);
-    if (!options.screenshot.isEmpty() && !file.open(QIODevice::WriteOnly)) {
-        Options::fail(QStringLiteral("cannot write %1: %2").arg(options.screenshot, file.errorString()));
-    }
-
     QApplication::setAttribute(Qt::AA_EnableHighDpiScaling);
     QApplication::setAttribute(Qt::AA_UseHighDpiPixmaps);
     const QApplication application(argc, argv);
-    QApplication::setApplicationDisplayName(QString());
     MainWindow window(camera.get(), options.language);
-    if (!options.screenshot.isEmpty()) {
-        return render(window, file);
+    if (QGuiApplication::platformName() != QLatin1String("offscreen")) {
+        QLoggingCategory::setFilterRules(QString());
+        window.show();
+        return QApplication::exec();
     }
-    if (QGuiApplication::platformName() == QLatin1String("offscreen")) {
-        const QString name = QDir::current().absoluteFilePath(QStringLiteral("trigger-panel.png"));
-        std::printf("There is no display: the window is rendered into %s\n", qPrintable(QDir::toNativeSeparators(name)));
-        file.setFileName(name);
-        if (!file.open(QIODevice::WriteOnly)) {
-            Options::fail(QStringLiteral("cannot write %1: %2").arg(name, file.errorString()));
-        }
-        return render(window, file);
+    const QString name = options.screenshot.isEmpty()
+                             ? QDir::current().absoluteFilePath(QStringLiteral("trigger-panel.png"))
+                             : options.screenshot;
+    QSaveFile file(name); // leaves nothing behind that is not complete
+    if (!file.open(QIODevice::WriteOnly) || !render(window, file)) {
+        return Options::complain(QStringLiteral("cannot write %1: %2").arg(name, file.errorString()));
     }
-    QLoggingCategory::setFilterRules(QString());
-    window.show();
-    return QApplication::exec();
+    if (options.screenshot.isEmpty()) {
+        std::printf("There is no display: the window was rendered into %s\n", qPrintable(name));
+    }
+    return 0;
 }
