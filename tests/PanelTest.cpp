@@ -233,7 +233,7 @@ private Q_SLOTS:
         QCOMPARE(m_device.writes(), QStringList{QStringLiteral("set TriggerStopConfig3Enable=true")});
 
         // Shown anew, the panel finds out by itself.
-        m_device.node("InputTriggerMode").mode = RuvoNodeReadOnly;
+        m_device.node("InputTriggerMode").mode = RuvoNodeNotAvailable; // anything but read/write
         m_panel->hide();
         m_panel->show();
         QCOMPARE(titlesEnabled(), 0);
