@@ -4,14 +4,24 @@
 #include <QSignalBlocker>
 #include <QWidget>
 
-QPointer<QWidget> KeyboardFocus::giveUp(const QWidget *widget)
+namespace {
+
+/// The widget with the focus, if it is this one or stands in it.
+QWidget *holderIn(const QWidget *widget)
 {
     QWidget *const holder = QApplication::focusWidget();
-    if (!holder || (holder != widget && !widget->isAncestorOf(holder))) {
-        return nullptr;
+    return holder && (holder == widget || widget->isAncestorOf(holder)) ? holder : nullptr;
+}
+
+} // namespace
+
+QPointer<QWidget> KeyboardFocus::giveUp(const QWidget *widget)
+{
+    QWidget *const holder = holderIn(widget);
+    if (holder) {
+        const QSignalBlocker blocker(holder);
+        holder->clearFocus();
     }
-    const QSignalBlocker blocker(holder);
-    holder->clearFocus();
     return holder;
 }
 
@@ -24,8 +34,12 @@ void KeyboardFocus::giveBack(QWidget *holder)
 
 void KeyboardFocus::hideQuietly(QWidget *widget)
 {
-    giveUp(widget);
+    QWidget *const holder = holderIn(widget);
+    const QSignalBlocker blocker(holder);
     widget->hide();
+    if (holder && holder->hasFocus()) {
+        holder->clearFocus(); // there was nothing else to take it
+    }
 }
 
 void KeyboardFocus::placeBehind(QWidget *predecessor, QWidget *widget)

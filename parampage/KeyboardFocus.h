@@ -17,7 +17,7 @@ public:
     /// Gives the focus back to what giveUp() returned, if that still can take it.
     static void giveBack(QWidget *holder);
 
-    /// Hides a widget in which an editor may have the focus.
+    /// Hides a widget in which an editor may have the focus, which moves on to the next tab stop.
     static void hideQuietly(QWidget *widget);
 
     /// Puts `widget` right behind `predecessor` in the tab order. Unlike QWidget::setTabOrder() this also takes

@@ -206,6 +206,7 @@ private Q_SLOTS:
         QTest::keyClicks(spin, QStringLiteral("9"));
         page(2)->deleteStopConfig(); // as assistive technology would, without moving the focus first
         QVERIFY(page(2)->isHidden());
+        QVERIFY2(QApplication::focusWidget() && QApplication::focusWidget()->isVisible(), "the focus moves on");
         QCOMPARE(m_device.writes(), QStringList{QStringLiteral("set TriggerStopConfig2Enable=false")});
     }
 
