@@ -191,32 +191,35 @@ struct GenicamDevice::Private
     /// Range and increment of an integer or a float. A node may do without; Aravis answers that with a default
     /// for some kinds of nodes and with an error for others.
     template <typename T>
-    void readLimits(void (*readBounds)(ArvDevice *, const char *, T *, T *, GError **),
+    long readLimits(void (*readBounds)(ArvDevice *, const char *, T *, T *, GError **),
                     T (*readIncrement)(ArvDevice *, const char *, GError **),
-                    const QByteArray &name, T &minimum, T &maximum, T &increment, Failure &failure) const
+                    const QString &name, T &minimum, T &maximum, T &increment)
     {
-        readBounds(device, name.constData(), &minimum, &maximum, failure.slot());
+        const QByteArray node = name.toUtf8();
+        Failure failure;
+        readBounds(device, node.constData(), &minimum, &maximum, failure.slot());
         if (failure.isAbsence()) {
             minimum = std::numeric_limits<T>::lowest();
             maximum = std::numeric_limits<T>::max();
         } else if (failure) {
-            return;
+            return readResult(name, failure);
         }
-        increment = readIncrement(device, name.constData(), failure.slot());
+        increment = readIncrement(device, node.constData(), failure.slot());
         if (failure.isAbsence()) {
             increment = 0;
             failure.clear();
         }
+        return readResult(name, failure);
     }
-    void readLimits(const QByteArray &name, gint64 &minimum, gint64 &maximum, gint64 &increment, Failure &failure) const
+    long readLimits(const QString &name, gint64 &minimum, gint64 &maximum, gint64 &increment)
     {
-        readLimits<gint64>(arv_device_get_integer_feature_bounds, arv_device_get_integer_feature_increment,
-                           name, minimum, maximum, increment, failure);
+        return readLimits<gint64>(arv_device_get_integer_feature_bounds, arv_device_get_integer_feature_increment,
+                                  name, minimum, maximum, increment);
     }
-    void readLimits(const QByteArray &name, double &minimum, double &maximum, double &increment, Failure &failure) const
+    long readLimits(const QString &name, double &minimum, double &maximum, double &increment)
     {
-        readLimits<double>(arv_device_get_float_feature_bounds, arv_device_get_float_feature_increment,
-                           name, minimum, maximum, increment, failure);
+        return readLimits<double>(arv_device_get_float_feature_bounds, arv_device_get_float_feature_increment,
+                                  name, minimum, maximum, increment);
     }
 
     long availableEntries(const QString &name, QList<QString> &entries)
@@ -286,19 +289,20 @@ long GenicamDevice::getParamInt(const QString &name, int &value, int &min, int &
     if (const long status = d->readable(name, RuvoNodeInteger)) {
         return status;
     }
-    const QByteArray node = name.toUtf8();
     Failure failure;
+    const gint64 current = arv_device_get_integer_feature_value(d->device, name.toUtf8().constData(), failure.slot());
+    if (failure) {
+        return d->readResult(name, failure);
+    }
     gint64 minimum = 0;
     gint64 maximum = 0;
     gint64 increment = 0;
-    value = toInt(arv_device_get_integer_feature_value(d->device, node.constData(), failure.slot()));
-    if (!failure) {
-        d->readLimits(node, minimum, maximum, increment, failure);
-    }
+    const long status = d->readLimits(name, minimum, maximum, increment);
+    value = toInt(current);
     min = toInt(minimum);
     max = toMaximum(maximum);
     inc = toInt(qMax<gint64>(increment, 1));
-    return d->readResult(name, failure);
+    return status;
 }
 
 long GenicamDevice::getParamFloat(const QString &name, float &value, float &min, float &max, float &inc)
@@ -306,28 +310,25 @@ long GenicamDevice::getParamFloat(const QString &name, float &value, float &min,
     if (const long status = d->readable(name, RuvoNodeFloat)) {
         return status;
     }
-    const QByteArray node = name.toUtf8();
     Failure failure;
-    double minimum = 0;
-    double maximum = 0;
-    double increment = 0;
-    const double current = arv_device_get_float_feature_value(d->device, node.constData(), failure.slot());
-    if (!failure) {
-        d->readLimits(node, minimum, maximum, increment, failure);
-    }
+    const double current = arv_device_get_float_feature_value(d->device, name.toUtf8().constData(), failure.slot());
     if (failure) {
         return d->readResult(name, failure);
     }
     if (!std::isfinite(current)) {
         return d->fail(DeviceFailure, name, QStringLiteral("the device holds no number"));
     }
+    double minimum = 0;
+    double maximum = 0;
+    double increment = 0;
+    const long status = d->readLimits(name, minimum, maximum, increment);
     // Where the default for "none" comes back it is the smallest double there is, which no float can hold.
     const bool hasIncrement = increment >= double(std::numeric_limits<float>::min());
     value = toFloat(current);
     min = toFloat(minimum);
     max = toFloat(maximum);
     inc = toFloat(hasIncrement ? increment : stepFor(minimum, maximum));
-    return Ok;
+    return status;
 }
 
 long GenicamDevice::getParamBool(const QString &name, bool &value)
@@ -376,20 +377,18 @@ long GenicamDevice::setParamInt(const QString &name, int value)
     if (const long status = d->writable(name, RuvoNodeInteger)) {
         return status;
     }
-    const QByteArray node = name.toUtf8();
-    Failure failure;
     gint64 minimum = 0;
     gint64 maximum = 0;
     gint64 increment = 0;
-    d->readLimits(node, minimum, maximum, increment, failure);
-    if (failure) {
-        return d->readResult(name, failure);
+    if (const long status = d->readLimits(name, minimum, maximum, increment)) {
+        return status;
     }
     // Only the range is checked for us. Unsigned, because the distance from the smallest minimum does not fit otherwise.
     if (increment > 1 && (quint64(value) - quint64(minimum)) % quint64(increment) != 0) {
         return d->fail(InvalidValue, name, QStringLiteral("%1 is not a multiple of %2 above the minimum").arg(value).arg(increment));
     }
-    arv_device_set_integer_feature_value(d->device, node.constData(), value, failure.slot());
+    Failure failure;
+    arv_device_set_integer_feature_value(d->device, name.toUtf8().constData(), value, failure.slot());
     return d->writeResult(name, failure);
 }
 
@@ -401,14 +400,11 @@ long GenicamDevice::setParamFloat(const QString &name, float value)
     if (!std::isfinite(value)) { // which is within every range
         return d->fail(InvalidValue, name, QStringLiteral("not a number"));
     }
-    const QByteArray node = name.toUtf8();
-    Failure failure;
     double minimum = 0;
     double maximum = 0;
     double increment = 0; // is advice for a float, not a rule
-    d->readLimits(node, minimum, maximum, increment, failure);
-    if (failure) {
-        return d->readResult(name, failure);
+    if (const long status = d->readLimits(name, minimum, maximum, increment)) {
+        return status;
     }
     // A bound that we handed out as a float may have been rounded to the far side of itself.
     double exact = double(value);
@@ -417,7 +413,8 @@ long GenicamDevice::setParamFloat(const QString &name, float value)
     } else if (value == toFloat(minimum)) {
         exact = minimum;
     }
-    arv_device_set_float_feature_value(d->device, node.constData(), exact, failure.slot());
+    Failure failure;
+    arv_device_set_float_feature_value(d->device, name.toUtf8().constData(), exact, failure.slot());
     return d->writeResult(name, failure);
 }
 

@@ -2,6 +2,7 @@
 
 #include "ui_VyTriggerConfigWidgetImpl.h"
 
+#include "parampage/DeviceAccess.h"
 #include "parampage/KeyboardFocus.h"
 #include "parampage/ParamPageWidgetItem.h"
 #include "trigger/TriggerConfigWdgImpl.h"
@@ -9,22 +10,10 @@
 
 #include <VyCommonGUI/VyBlockWidget.h>
 #include <VyViewerCore/CoreEvent.h>
-#include <VyViewerCore/Singleton.h>
 
 #include <QEvent>
 
 using namespace VyViewer;
-
-namespace {
-
-constexpr char kModeNode[] = "InputTriggerMode";
-
-IDeviceManager *devices()
-{
-    return Singleton<IDeviceManager>::getInstance();
-}
-
-} // namespace
 
 VyTriggerConfigWidgetImpl::VyTriggerConfigWidgetImpl(QWidget *parent)
     : QWidget(parent)
@@ -37,7 +26,7 @@ VyTriggerConfigWidgetImpl::VyTriggerConfigWidgetImpl(QWidget *parent)
     // its arguments up by name and would be dropped.
     qRegisterMetaType<IDevice>();
     qRegisterMetaType<IDevice>("Device*const");
-    connect(devices(), &IDeviceManager::deviceGrabStatusUpdate, this,
+    connect(DeviceAccess::service(), &IDeviceManager::deviceGrabStatusUpdate, this,
             &VyTriggerConfigWidgetImpl::onUpdateDeviceGrabStatus, Qt::UniqueConnection);
     connect(m_events.subscribe(QStringLiteral("UserSetLoad")), &CoreEvent::triggered, this,
             &VyTriggerConfigWidgetImpl::onChangeProj, Qt::UniqueConnection);
@@ -107,13 +96,10 @@ void VyTriggerConfigWidgetImpl::showEvent(QShowEvent *event)
     if (m_device) {
         // The trigger mode is locked while images are acquired, so its access mode tells, whether or not the
         // host has signalled the state that holds now.
-        const bool acquiring = devices()->getNodeAccessMode(m_device, QLatin1String(kModeNode)) != RuvoNodeReadWrite;
+        const QLatin1String node("InputTriggerMode");
+        const bool acquiring = DeviceAccess::service()->getNodeAccessMode(m_device, node) != RuvoNodeReadWrite;
         onUpdateDeviceGrabStatus(m_device, acquiring ? 1 : 0);
-
-        QString mode;
-        QList<QString> modes;
-        devices()->getParamEnum(m_device, QLatin1String(kModeNode), mode, modes);
-        holdTriggerRefresh(mode == QLatin1String("Hold"));
+        holdTriggerRefresh(DeviceAccess::currentEntry(m_device, node) == QLatin1String("Hold"));
     }
     QWidget::showEvent(event);
 }

@@ -1,12 +1,10 @@
 #include "CommandFormats.h"
 
+#include "DeviceAccess.h"
 #include "DeviceEvents.h"
 #include "ParamPageWidgetItem.h"
 
-#include <VyViewerCore/IDeviceManager.h>
-#include <VyViewerCore/Singleton.h>
-
-using namespace VyViewer;
+using VyViewer::CoreEvent;
 
 namespace {
 
@@ -57,11 +55,8 @@ CoreEvent *CommandFormats::subscription(CommandSource source) const
 
 void CommandFormats::apply(CommandSource source, Device *device, const QString &formatNode)
 {
-    QString format; // stays empty when the read fails, and so is not "Hex"
-    QList<QString> formats;
-    Singleton<IDeviceManager>::getInstance()->getParamEnum(device, formatNode, format, formats);
-    QValidator *const validator = format == QLatin1String("Hex") ? static_cast<QValidator *>(&m_hexValidator)
-                                                                 : &m_textValidator;
+    const bool hex = DeviceAccess::currentEntry(device, formatNode) == QLatin1String("Hex");
+    QValidator *const validator = hex ? static_cast<QValidator *>(&m_hexValidator) : &m_textValidator;
     for (ParamPageWidgetItem *row : qAsConst(of(source).rows)) {
         row->setValidator(validator);
     }

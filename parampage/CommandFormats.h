@@ -65,8 +65,6 @@ private:
     HexValidator m_hexValidator;
 };
 
-
-
 template <typename Page>
 void CommandFormats::subscribe(DeviceEvents &events, Page *page, const Handlers<Page> &handlers)
 {

@@ -27,6 +27,8 @@ public Q_SLOTS:
     virtual void retranslate();
 
 protected:
+    Device *device() const { return m_device; }
+
     void showEvent(QShowEvent *event) override;
 
 private:

@@ -1,6 +1,7 @@
 #include "ParamPageWidgetItem.h"
 
 #include "CLabel.h"
+#include "DeviceAccess.h"
 #include "KeyboardFocus.h"
 
 #include <VyCommonGUI/VyComboBox.h>
@@ -8,8 +9,6 @@
 #include <VyCommonGUI/VyLineEdit.h>
 #include <VyCommonGUI/VySpinBox.h>
 #include <VyCommonGUI/VyToggleSwitch.h>
-#include <VyViewerCore/IDeviceManager.h>
-#include <VyViewerCore/Singleton.h>
 
 #include <QCursor>
 #include <QHBoxLayout>
@@ -57,11 +56,6 @@ constexpr char kValueList[] = "valueList"; // the entries as the device spells t
     QT_TRANSLATE_NOOP("ParamPageWidgetItem", "XonXoff"),
 };
 
-IDeviceManager *devices()
-{
-    return Singleton<IDeviceManager>::getInstance();
-}
-
 } // namespace
 
 ParamPageWidgetItem::ParamPageWidgetItem(Device *device, const QString &label, const QString &nodeName,
@@ -85,7 +79,7 @@ void ParamPageWidgetItem::refresh()
     if (!m_editor) {
         return;
     }
-    const RuvoNodeAccessMode mode = devices()->getNodeAccessMode(m_device, m_nodeName);
+    const RuvoNodeAccessMode mode = DeviceAccess::service()->getNodeAccessMode(m_device, m_nodeName);
     const bool shown = mode == RuvoNodeWriteOnly || mode == RuvoNodeReadOnly || mode == RuvoNodeReadWrite;
     if (shown) {
         readValue();
@@ -180,7 +174,7 @@ void ParamPageWidgetItem::showEvent(QShowEvent *event)
 
 QWidget *ParamPageWidgetItem::createEditor()
 {
-    m_nodeType = devices()->getNodeType(m_device, m_nodeName);
+    m_nodeType = DeviceAccess::service()->getNodeType(m_device, m_nodeName);
     switch (m_nodeType) {
     case RuvoNodeBoolean:
         return createSwitch();
@@ -254,7 +248,7 @@ void ParamPageWidgetItem::readValue()
 void ParamPageWidgetItem::readBool()
 {
     bool value = false;
-    if (devices()->getParamBool(m_device, m_nodeName, value) != 0) {
+    if (DeviceAccess::service()->getParamBool(m_device, m_nodeName, value) != 0) {
         return;
     }
     auto *const toggle = qobject_cast<VyToggleSwitch *>(focusEditor());
@@ -268,7 +262,7 @@ void ParamPageWidgetItem::readInt()
     int min = 0;
     int max = 0;
     int inc = 0;
-    if (devices()->getParamInt(m_device, m_nodeName, value, min, max, inc) != 0) {
+    if (DeviceAccess::service()->getParamInt(m_device, m_nodeName, value, min, max, inc) != 0) {
         return;
     }
     auto *const spin = static_cast<VySpinBox *>(m_editor);
@@ -285,7 +279,7 @@ void ParamPageWidgetItem::readFloat()
     float min = 0;
     float max = 0;
     float inc = 0;
-    if (devices()->getParamFloat(m_device, m_nodeName, value, min, max, inc) != 0) {
+    if (DeviceAccess::service()->getParamFloat(m_device, m_nodeName, value, min, max, inc) != 0) {
         return;
     }
     auto *const spin = static_cast<VyDoubleSpinBox *>(m_editor);
@@ -302,7 +296,7 @@ void ParamPageWidgetItem::readEnum()
 {
     QString value;
     QList<QString> entries;
-    if (devices()->getParamEnum(m_device, m_nodeName, value, entries) != 0) {
+    if (DeviceAccess::service()->getParamEnum(m_device, m_nodeName, value, entries) != 0) {
         return;
     }
     auto *const combo = static_cast<VyComboBox *>(m_editor);
@@ -317,7 +311,7 @@ void ParamPageWidgetItem::readEnum()
 void ParamPageWidgetItem::readString()
 {
     QString value;
-    if (devices()->getParamString(m_device, m_nodeName, value) != 0) {
+    if (DeviceAccess::service()->getParamString(m_device, m_nodeName, value) != 0) {
         return;
     }
     auto *const edit = static_cast<VyLineEdit *>(m_editor);
@@ -331,7 +325,7 @@ void ParamPageWidgetItem::onIntParamEditFinished()
     if (!spin) {
         return;
     }
-    devices()->setParamInt(m_device, m_nodeName, spin->value());
+    DeviceAccess::service()->setParamInt(m_device, m_nodeName, spin->value());
     Q_EMIT valueChanged();
 }
 
@@ -343,7 +337,7 @@ void ParamPageWidgetItem::onFloatParamEditFinished()
     }
     // An untouched editor writes the device's own float, also where the editor rounds or clamps what it shows.
     const double value = spin->value();
-    devices()->setParamFloat(m_device, m_nodeName,
+    DeviceAccess::service()->setParamFloat(m_device, m_nodeName,
                              value == m_floatShown ? m_floatRead : static_cast<float>(value));
     Q_EMIT valueChanged();
 }
@@ -354,7 +348,7 @@ void ParamPageWidgetItem::onBoolParamChanged()
     if (!toggle) {
         return;
     }
-    devices()->setParamBool(m_device, m_nodeName, toggle->getIsToggled());
+    DeviceAccess::service()->setParamBool(m_device, m_nodeName, toggle->getIsToggled());
     Q_EMIT valueChanged();
 }
 
@@ -369,13 +363,13 @@ void ParamPageWidgetItem::onEnumParamChanged()
     if (index < 0 || index >= entries.size()) {
         return;
     }
-    devices()->setParamEnum(m_device, m_nodeName, entries.at(index));
+    DeviceAccess::service()->setParamEnum(m_device, m_nodeName, entries.at(index));
     Q_EMIT valueChanged();
 }
 
 void ParamPageWidgetItem::onButtonClicked()
 {
-    devices()->executeCMD(m_device, m_nodeName);
+    DeviceAccess::service()->executeCMD(m_device, m_nodeName);
     Q_EMIT valueChanged();
 }
 
@@ -385,7 +379,7 @@ void ParamPageWidgetItem::onLineEditFinished()
     if (!edit) {
         return;
     }
-    devices()->setParamString(m_device, m_nodeName, edit->text());
+    DeviceAccess::service()->setParamString(m_device, m_nodeName, edit->text());
     Q_EMIT valueChanged();
 }
 

@@ -6,8 +6,6 @@
 #include <QStringList>
 #include <QVariant>
 
-#include <functional>
-
 /// An in-memory device that writes down every call in order and does as it is told: a node can refuse,
 /// adjust, fail, or change its access mode at any moment.
 ///

@@ -1,11 +1,10 @@
 #include "TriggerConfigWdgImpl.h"
 
+#include "parampage/DeviceAccess.h"
 #include "parampage/ParamPageWidgetItem.h"
 
 #include <VyCommonGUI/VyMultiCheckTitleWidget.h>
 #include <VyViewerCore/CoreEvent.h>
-#include <VyViewerCore/IDeviceManager.h>
-#include <VyViewerCore/Singleton.h>
 
 #include <QEvent>
 
@@ -75,7 +74,6 @@ constexpr RowSpec kRows[] = {
 
 TriggerConfigWdgImpl::TriggerConfigWdgImpl(Device *device, QWidget *parent)
     : ParamPageWidget(device, parent)
-    , m_device(device)
     , m_formats(this)
 {
     // Before the rows, whose handlers post under these names.
@@ -90,10 +88,10 @@ void TriggerConfigWdgImpl::updateSourceTitles()
     for (const Title &title : qAsConst(m_titles)) {
         title.widget->hide();
     }
-    if (currentEntry(QLatin1String(kModeNode)) == QLatin1String("None")) {
+    if (DeviceAccess::currentEntry(device(), QLatin1String(kModeNode)) == QLatin1String("None")) {
         return;
     }
-    const QString source = currentEntry(QLatin1String(kSourceNode));
+    const QString source = DeviceAccess::currentEntry(device(), QLatin1String(kSourceNode));
     for (const Title &title : qAsConst(m_titles)) {
         if (source == QLatin1String(title.source)) {
             title.widget->show();
@@ -123,7 +121,7 @@ void TriggerConfigWdgImpl::updateSerialportCMDFormat()
 
 void TriggerConfigWdgImpl::postCMDFormatEvent(CoreEvent *event)
 {
-    DeviceEvents::postUnheard(event, DeviceEvents::payload(m_device));
+    DeviceEvents::postUnheard(event, DeviceEvents::payload(device()));
 }
 
 void TriggerConfigWdgImpl::showEvent(QShowEvent *event)
@@ -155,10 +153,10 @@ void TriggerConfigWdgImpl::changeEvent(QEvent *event)
 
 void TriggerConfigWdgImpl::onTriggerModeChange()
 {
-    const QString mode = currentEntry(QLatin1String(kModeNode));
+    const QString mode = DeviceAccess::currentEntry(device(), QLatin1String(kModeNode));
     Q_EMIT triggerModeHoldRefresh(mode == QLatin1String("Hold"));
 
-    QVariantMap payload = DeviceEvents::payload(m_device);
+    QVariantMap payload = DeviceEvents::payload(device());
     payload.insert(QStringLiteral("TriggerMode"),
                    mode == QLatin1String("None") ? QStringLiteral("Off") : QStringLiteral("On"));
     payload.insert(QStringLiteral("TriggerConfigWdgImpl"), QVariant()); // the key alone marks the sender
@@ -170,7 +168,7 @@ void TriggerConfigWdgImpl::onTriggerModeChange()
 void TriggerConfigWdgImpl::onTriggerSourceChange()
 {
     updateSourceTitles();
-    DeviceEvents::post(m_sourceSubscription->getEventName(), DeviceEvents::payload(m_device));
+    DeviceEvents::post(m_sourceSubscription->getEventName(), DeviceEvents::payload(device()));
 }
 
 void TriggerConfigWdgImpl::onTcpserverCMDFormatEvent(QVariantMap payload)
@@ -212,7 +210,7 @@ void TriggerConfigWdgImpl::buildRows()
             addTitle(entry.node, entry.label);
             continue;
         }
-        auto *const row = new ParamPageWidgetItem(m_device, QString::fromLatin1(entry.label),
+        auto *const row = new ParamPageWidgetItem(device(), QString::fromLatin1(entry.label),
                                                   QString::fromLatin1(entry.node), this);
         // First, so that all rows are refreshed when the handlers below run.
         addItem(row);
@@ -251,23 +249,14 @@ void TriggerConfigWdgImpl::addTitle(const char *source, const char *text)
     m_titles.append({source, text, title});
 }
 
-/// The value of an enumeration node; empty when it cannot be read.
-QString TriggerConfigWdgImpl::currentEntry(const QString &nodeName) const
-{
-    QString value;
-    QList<QString> entries;
-    Singleton<IDeviceManager>::getInstance()->getParamEnum(m_device, nodeName, value, entries);
-    return value;
-}
-
 void TriggerConfigWdgImpl::updateCMDFormat(CommandSource source)
 {
-    m_formats.apply(source, m_device, CommandFormats::triggerFormatNode(source));
+    m_formats.apply(source, device(), CommandFormats::triggerFormatNode(source));
 }
 
 void TriggerConfigWdgImpl::refreshCommands(CommandSource source, const QVariantMap &payload)
 {
-    if (DeviceEvents::concern(payload, m_device)) {
+    if (DeviceEvents::concern(payload, device())) {
         m_formats.refreshRows(source);
     }
 }

@@ -61,11 +61,9 @@ private:
     void buildRows();
     void addTitle(const char *source, const char *text);
     void subscribe();
-    QString currentEntry(const QString &nodeName) const;
     void updateCMDFormat(CommandSource source);
     void refreshCommands(CommandSource source, const QVariantMap &payload);
 
-    Device *const m_device; // not owned
     QVector<Title> m_titles;
     CommandFormats m_formats;
     DeviceEvents m_events;

@@ -2,18 +2,13 @@
 
 #include "TriggerStopConfigWdg.h"
 
+#include "parampage/DeviceAccess.h"
 #include "parampage/DeviceEvents.h"
 #include "parampage/KeyboardFocus.h"
-
-#include <VyViewerCore/IDeviceManager.h>
-#include <VyViewerCore/Singleton.h>
 
 #include <QGridLayout>
 
 #include <algorithm>
-
-using VyViewer::IDeviceManager;
-using VyViewer::Singleton;
 
 namespace {
 constexpr int kPageCount = 5;
@@ -47,8 +42,7 @@ void TriggerStopConfigContainerWdg::addStopConfig()
     }
     const int number = static_cast<int>(hidden - m_pages.cbegin()) + 1;
     if (number != 1) { // the first configuration has no switch
-        Singleton<IDeviceManager>::getInstance()->setParamBool(m_device, TriggerStopConfigWdg::enableNode(number),
-                                                               true);
+        DeviceAccess::service()->setParamBool(m_device, TriggerStopConfigWdg::enableNode(number), true);
     }
     (*hidden)->setVisible(true);
 
@@ -76,8 +70,7 @@ void TriggerStopConfigContainerWdg::showEvent(QShowEvent *event)
 {
     for (int i = 1; i < m_pages.size(); ++i) {
         bool enabled = false;
-        Singleton<IDeviceManager>::getInstance()->getParamBool(m_device, TriggerStopConfigWdg::enableNode(i + 1),
-                                                               enabled);
+        DeviceAccess::service()->getParamBool(m_device, TriggerStopConfigWdg::enableNode(i + 1), enabled);
         if (enabled) {
             m_pages.at(i)->show();
         } else {

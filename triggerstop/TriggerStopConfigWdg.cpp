@@ -1,12 +1,11 @@
 #include "TriggerStopConfigWdg.h"
 
+#include "parampage/DeviceAccess.h"
 #include "parampage/KeyboardFocus.h"
 #include "parampage/ParamPageWidgetItem.h"
 
 #include <VyCommonGUI/VyMultiCheckTitleWidget.h>
 #include <VyViewerCore/CoreEvent.h>
-#include <VyViewerCore/IDeviceManager.h>
-#include <VyViewerCore/Singleton.h>
 
 #include <QEvent>
 
@@ -56,17 +55,11 @@ constexpr RowSpec kRows[] = {
     {"TriggerStopConfig%1SerialPortStopCMD", QT_TRANSLATE_NOOP("ParamPageWidgetItem", "Stop Trigger Command"), Role::Command, Source::SerialPort},
 };
 
-IDeviceManager *devices()
-{
-    return Singleton<IDeviceManager>::getInstance();
-}
-
 } // namespace
 
 TriggerStopConfigWdg::TriggerStopConfigWdg(int number, Device *device, QWidget *parent)
     : ParamPageWidget(device, parent)
     , m_number(number)
-    , m_device(device)
     , m_formats(this)
 {
     subscribe();
@@ -108,19 +101,19 @@ void TriggerStopConfigWdg::updateSerialportCMDFormat()
 
 void TriggerStopConfigWdg::postStopConditionEvent(CoreEvent *event)
 {
-    DeviceEvents::postUnheard(event, DeviceEvents::payload(m_device));
+    DeviceEvents::postUnheard(event, DeviceEvents::payload(device()));
 }
 
 void TriggerStopConfigWdg::postDecodeCountEnableEvent()
 {
-    DeviceEvents::post(QStringLiteral("TriggerStopDecodeCountEnable"), DeviceEvents::payload(m_device));
+    DeviceEvents::post(QStringLiteral("TriggerStopDecodeCountEnable"), DeviceEvents::payload(device()));
 }
 
 void TriggerStopConfigWdg::deleteStopConfig()
 {
-    devices()->setParamBool(m_device, enableNode(m_number), false);
+    DeviceAccess::service()->setParamBool(device(), enableNode(m_number), false);
     // This page hears it too: its own condition row is refreshed like everybody's.
-    DeviceEvents::post(m_conditionSubscription->getEventName(), DeviceEvents::payload(m_device));
+    DeviceEvents::post(m_conditionSubscription->getEventName(), DeviceEvents::payload(device()));
     KeyboardFocus::hideQuietly(this); // an editor that loses the focus must not write to what is now off
 }
 
@@ -150,7 +143,7 @@ void TriggerStopConfigWdg::changeEvent(QEvent *event)
 
 void TriggerStopConfigWdg::onTriggerStopConditionEvent(QVariantMap payload)
 {
-    if (DeviceEvents::concern(payload, m_device)) {
+    if (DeviceEvents::concern(payload, device())) {
         m_conditionRow->refresh();
     }
 }
@@ -177,7 +170,7 @@ void TriggerStopConfigWdg::onSerialportCMDFormatEvent(QVariantMap payload)
 
 void TriggerStopConfigWdg::onTriggerSourceEvent(QVariantMap payload)
 {
-    if (DeviceEvents::concern(payload, m_device)) {
+    if (DeviceEvents::concern(payload, device())) {
         updateWidget();
     }
 }
@@ -211,7 +204,7 @@ void TriggerStopConfigWdg::buildTitle()
 void TriggerStopConfigWdg::buildRows()
 {
     for (const RowSpec &entry : kRows) {
-        auto *const row = new ParamPageWidgetItem(m_device, QString::fromLatin1(entry.label),
+        auto *const row = new ParamPageWidgetItem(device(), QString::fromLatin1(entry.label),
                                                   nodeName(entry.node), this);
         // First, so that all rows are refreshed when the handlers below run.
         addItem(row);
@@ -253,16 +246,16 @@ void TriggerStopConfigWdg::updateCMDFormat(CommandSource source)
         return entry.role == Role::Format && entry.source == source;
     });
     QString node = nodeName(own->node);
-    const RuvoNodeAccessMode mode = devices()->getNodeAccessMode(m_device, node);
+    const RuvoNodeAccessMode mode = DeviceAccess::service()->getNodeAccessMode(device(), node);
     if (mode == RuvoNodeNotImplemented || mode == RuvoNodeNotAvailable) {
         node = CommandFormats::triggerFormatNode(source); // one format for starting and stopping
     }
-    m_formats.apply(source, m_device, node);
+    m_formats.apply(source, device(), node);
 }
 
 void TriggerStopConfigWdg::onCMDFormatEvent(CommandSource source, const QVariantMap &payload)
 {
-    if (DeviceEvents::concern(payload, m_device)) {
+    if (DeviceEvents::concern(payload, device())) {
         m_formats.refreshRows(source);
         updateCMDFormat(source);
     }

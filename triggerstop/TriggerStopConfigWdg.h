@@ -63,7 +63,6 @@ private:
     ParamPageWidgetItem *m_conditionRow = nullptr;          // child
     VyViewer::VyMultiCheckTitleWidget *m_title = nullptr;   // child
     const int m_number;
-    Device *const m_device; // not owned
     CommandFormats m_formats;
     DeviceEvents m_events;
     VyViewer::CoreEvent *m_conditionSubscription = nullptr; // owned by m_events

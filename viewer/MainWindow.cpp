@@ -190,8 +190,7 @@ void MainWindow::loadUserSet(const QString &set)
         status = devices()->executeCMD(m_device, QStringLiteral("UserSetLoad"));
     }
     if (status == 0) {
-        Singleton<CoreEventBus>::getInstance()->post(
-            QStringLiteral("UserSetLoad"), {{QStringLiteral("IDevice"), QVariant::fromValue<IDevice>(m_device)}});
+        post(QStringLiteral("UserSetLoad"));
     }
     report(tr("Load user set %1").arg(set), status);
 }
@@ -202,9 +201,7 @@ void MainWindow::setTriggerMode(const QString &mode)
     const long status = devices()->setParamEnum(m_device, QLatin1String(kModeNode), mode);
     if (status == 0) {
         const QString state = mode == QLatin1String("None") ? QStringLiteral("Off") : QStringLiteral("On");
-        Singleton<CoreEventBus>::getInstance()->post(
-            QStringLiteral("DeviceParamChanged"), {{QStringLiteral("IDevice"), QVariant::fromValue<IDevice>(m_device)},
-                                                   {QStringLiteral("TriggerMode"), state}});
+        post(QStringLiteral("DeviceParamChanged"), {{QStringLiteral("TriggerMode"), state}});
     }
     report(tr("Trigger mode %1").arg(mode), status);
 }
@@ -224,6 +221,12 @@ void MainWindow::fillMenu(QMenu *menu, const QString &node, void (MainWindow::*c
             connect(action, &QAction::triggered, this, [this, choose, entry] { (this->*choose)(entry); });
         }
     });
+}
+
+void MainWindow::post(const QString &event, QVariantMap payload) const
+{
+    payload.insert(QStringLiteral("IDevice"), QVariant::fromValue<IDevice>(m_device));
+    Singleton<CoreEventBus>::getInstance()->post(event, payload);
 }
 
 void MainWindow::commitPendingEdit() const

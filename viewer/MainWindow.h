@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QMainWindow>
+#include <QVariantMap>
 
 class Device;
 class QAction;
@@ -33,6 +34,8 @@ private:
     void loadUserSet(const QString &set);
     void setTriggerMode(const QString &mode);
     void fillMenu(QMenu *menu, const QString &node, void (MainWindow::*choose)(const QString &));
+    /// Tells the rest of the host what happened to the device, which is added to the payload.
+    void post(const QString &event, QVariantMap payload = {}) const;
     /// Writes what the user is typing, which the coming change would otherwise discard.
     void commitPendingEdit() const;
     void report(const QString &what, long status);
