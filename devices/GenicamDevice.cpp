@@ -6,6 +6,7 @@
 
 #include <QFile>
 #include <QFileInfo>
+#include <QSet>
 
 #include <chrono>
 #include <cmath>
@@ -121,6 +122,25 @@ qint64 realTime()
 {
     using namespace std::chrono;
     return duration_cast<milliseconds>(steady_clock::now().time_since_epoch()).count();
+}
+
+/// What a category lists, and the categories in it list. They may name each other in a circle.
+void collectFeatures(ArvGc *gc, const QString &name, QSet<QString> &seen, QStringList &features)
+{
+    if (seen.contains(name)) {
+        return;
+    }
+    seen.insert(name);
+    ArvGcNode *node = arv_gc_get_node(gc, name.toUtf8().constData());
+    if (!ARV_IS_GC_CATEGORY(node)) {
+        if (typeOf(node) != RuvoNodeUnknown) {
+            features.append(name);
+        }
+        return;
+    }
+    for (const GSList *entry = arv_gc_category_get_features(ARV_GC_CATEGORY(node)); entry; entry = entry->next) {
+        collectFeatures(gc, QString::fromUtf8(static_cast<const char *>(entry->data)), seen, features);
+    }
 }
 
 QString readDescription(const QString &fileName, QByteArray *bytes)
@@ -282,6 +302,38 @@ GenicamDevice::~GenicamDevice() = default;
 QString GenicamDevice::lastError() const
 {
     return d->error;
+}
+
+bool GenicamDevice::isReadOnly() const
+{
+    return false;
+}
+
+QStringList GenicamDevice::nodes() const
+{
+    QStringList features;
+    QSet<QString> seen;
+    collectFeatures(arv_device_get_genicam(d->device), QStringLiteral("Root"), seen, features);
+    return features;
+}
+
+QString GenicamDevice::unit(const QString &name) const
+{
+    ArvGcNode *const found = d->node(name);
+    if (ARV_IS_GC_INTEGER(found)) {
+        return QString::fromUtf8(arv_gc_integer_get_unit(ARV_GC_INTEGER(found)));
+    }
+    return ARV_IS_GC_FLOAT(found) ? QString::fromUtf8(arv_gc_float_get_unit(ARV_GC_FLOAT(found))) : QString();
+}
+
+QString GenicamDevice::description(const QString &name) const
+{
+    ArvGcNode *const found = d->node(name);
+    if (!ARV_IS_GC_FEATURE_NODE(found)) {
+        return QString();
+    }
+    const char *const text = arv_gc_feature_node_get_description(ARV_GC_FEATURE_NODE(found));
+    return QString::fromUtf8(text ? text : arv_gc_feature_node_get_tooltip(ARV_GC_FEATURE_NODE(found)));
 }
 
 long GenicamDevice::getParamInt(const QString &name, int &value, int &min, int &max, int &inc)

@@ -2,6 +2,7 @@
 
 #include "VyViewerCore/Device.h"
 
+#include <QStringList>
 #include <QtGlobal>
 
 #include <functional>
@@ -42,6 +43,15 @@ public:
 
     /// Why the last failed call failed, in words for the log or the status bar.
     QString lastError() const;
+
+    /// Somebody else controls the camera: nothing can be written.
+    bool isReadOnly() const;
+
+    /// Every feature of the camera's own description, in its order; of each the unit and an explanation, empty
+    /// where the description gives none.
+    QStringList nodes() const;
+    QString unit(const QString &name) const;
+    QString description(const QString &name) const;
 
     long getParamInt(const QString &name, int &value, int &min, int &max, int &inc) override;
     long getParamFloat(const QString &name, float &value, float &min, float &max, float &inc) override;

@@ -1,0 +1,6 @@
+#include "CameraFinder.h"
+
+QVector<CameraFinder::Camera> CameraFinder::find()
+{
+    return {};
+}

@@ -1,0 +1,5 @@
+#include "NodeView.h"
+
+NodeView::NodeView(QWidget *parent) : QWidget(parent) {}
+void NodeView::setDevice(GenicamDevice *) {}
+void NodeView::refresh() {}
