@@ -1,11 +1,7 @@
 #pragma once
 
-#include "CameraBehaviour.h"
+#include "SimulatedCamera.h"
 
-#include <QString>
-
-typedef struct _ArvDevice ArvDevice;
-
-/// Switches on a simulated camera inside this process: memory of our own behind a GenICam description.
-/// Returns a new reference, or null and the reason.
-ArvDevice *newBuiltInCamera(const QByteArray &description, CameraBehaviour::Clock clock, QString *error);
+/// Switches on a simulated camera inside this process. Null, and the reason, when the description cannot be used;
+/// a null clock is the real time.
+DevicePointer newBuiltInCamera(const QByteArray &description, CameraBehaviour::Clock clock, QString *error);

@@ -6,10 +6,14 @@
 
 #include <functional>
 
-/// The registers of a camera, wherever they are kept.
+/// The registers of a simulated camera, wherever they are kept.
 class CameraMemory
 {
 public:
+    static constexpr quint32 kSize = 0x10000; // bytes, from address 0
+
+    static bool contains(quint64 address, quint64 size) { return size <= kSize && address <= kSize - size; }
+
     virtual ~CameraMemory() = default;
     virtual void read(quint64 address, void *bytes, quint32 size) const = 0;
     virtual void write(quint64 address, const void *bytes, quint32 size) = 0;

@@ -43,11 +43,15 @@ Q_SIGNALS:
     void stateChanged();
 
 private:
+    struct Opened;
     void setState(State state, const QString &reason = {});
+    void take(Opened &opened);
+    void dropCache();
 
     const QString m_address;
     const QString m_description;
     State m_state = Closed;
     QString m_reason;
     std::unique_ptr<GenicamDevice> m_device;
+    quint64 m_attempt = 0; // tells what belongs to this opening from what comes late
 };

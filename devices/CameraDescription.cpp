@@ -1,11 +1,14 @@
 #include "CameraDescription.h"
 
+#include <QFile>
+#include <QFileInfo>
 #include <QHash>
 #include <QStringList>
 #include <QXmlStreamReader>
 
 namespace {
 
+constexpr qint64 kMaxDescription = qint64(16) * 1024 * 1024; // bytes
 constexpr int kMaxDepth = 32;       // of elements and of references: a description needs about six
 constexpr int kMaxReads = 10000;    // for one value, with all that it refers to: ours need about ten
 constexpr int kMaxRegister = 65536; // bytes
@@ -197,6 +200,34 @@ private:
 };
 
 } // namespace
+
+QString CameraDescription::fileName(const QString &name)
+{
+    Q_INIT_RESOURCE(smartcamera); // a static library does not do it by itself
+    return name.isEmpty() ? QStringLiteral(":/devices/smartcamera.xml") : name;
+}
+
+QByteArray CameraDescription::read(const QString &name, QString *error)
+{
+    QFile file(fileName(name));
+    if (!QFileInfo(file).isFile()) { // a pipe would keep us waiting
+        *error = QStringLiteral("there is no such file");
+        return {};
+    }
+    if (!file.open(QIODevice::ReadOnly)) {
+        *error = file.errorString();
+        return {};
+    }
+    const QByteArray bytes = file.read(kMaxDescription + 1);
+    if (file.error() != QFileDevice::NoError) {
+        *error = file.errorString();
+    } else if (bytes.size() > kMaxDescription) {
+        *error = QStringLiteral("the file is too large");
+    } else if (bytes.isEmpty()) {
+        *error = QStringLiteral("the file is empty");
+    }
+    return bytes;
+}
 
 QString CameraDescription::parse(const QByteArray &xml)
 {

@@ -11,6 +11,11 @@ struct CameraDescription
     /// What the nodes hold when the camera is switched on, in the description's order.
     QVector<QPair<QByteArray, QByteArray>> powerUp;
 
+    /// The file that a name stands for: an empty one for the description of the built-in camera.
+    static QString fileName(const QString &name);
+    /// Its contents, not parsed yet. Bounded; sets the reason when they cannot be had.
+    static QByteArray read(const QString &name, QString *error);
+
     /// Checks the description and collects its power-up values. Aravis takes text that stops half-way for a
     /// smaller description, and follows references without end or into nothing; such a one is refused
     /// here. Returns an empty text, or what is wrong in one line.

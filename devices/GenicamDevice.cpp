@@ -3,18 +3,20 @@
 #include "GenicamDevice.h"
 
 #include "BuiltInCamera.h"
+#include "CachingPort.h"
+#include "CameraDescription.h"
+#include "NetworkLink.h"
 
-#include <QFile>
-#include <QFileInfo>
 #include <QSet>
 
 #include <chrono>
 #include <cmath>
 #include <limits>
+#include <thread>
 
 namespace {
 
-constexpr qint64 kMaxDescription = qint64(16) * 1024 * 1024; // bytes
+constexpr int kCommandTime = 512; // milliseconds; a command that takes longer is not waited for
 
 /// An error as Aravis reports it, freed by itself.
 struct Failure
@@ -118,12 +120,6 @@ double stepFor(double minimum, double maximum)
     return range > 0 && range <= 1e6 ? std::pow(10.0, std::floor(std::log10(range / 1000))) : 1;
 }
 
-qint64 realTime()
-{
-    using namespace std::chrono;
-    return duration_cast<milliseconds>(steady_clock::now().time_since_epoch()).count();
-}
-
 /// What a category lists, and the categories in it list. They may name each other in a circle.
 void collectFeatures(ArvGc *gc, const QString &name, QSet<QString> &seen, QStringList &features)
 {
@@ -143,31 +139,51 @@ void collectFeatures(ArvGc *gc, const QString &name, QSet<QString> &seen, QStrin
     }
 }
 
-QString readDescription(const QString &fileName, QByteArray *bytes)
+ArvGcPropertyNode *findProperty(ArvGcNode *node, ArvGcPropertyNodeType type)
 {
-    QFile file(fileName);
-    if (!QFileInfo(fileName).isFile()) { // a pipe would keep us waiting
-        return QStringLiteral("there is no such file");
+    for (ArvDomNode *child = arv_dom_node_get_first_child(ARV_DOM_NODE(node)); child;
+         child = arv_dom_node_get_next_sibling(child)) {
+        if (ARV_IS_GC_PROPERTY_NODE(child) && arv_gc_property_node_get_node_type(ARV_GC_PROPERTY_NODE(child)) == type) {
+            return ARV_GC_PROPERTY_NODE(child);
+        }
     }
-    if (!file.open(QIODevice::ReadOnly)) {
-        return file.errorString();
+    return nullptr;
+}
+
+/// The registers below `parent` that can be read at any time, because they may be cached and have one address for
+/// ever: no other register has to be read to find it.
+void collectCachable(ArvDomNode *parent, QVector<CachingPort::Extent> &registers)
+{
+    for (ArvDomNode *child = arv_dom_node_get_first_child(parent); child; child = arv_dom_node_get_next_sibling(child)) {
+        collectCachable(child, registers);
+        if (!ARV_IS_GC_REGISTER(child) || !ARV_IS_GC_FEATURE_NODE(child)
+            || arv_gc_feature_node_get_actual_access_mode(ARV_GC_FEATURE_NODE(child)) == ARV_GC_ACCESS_MODE_WO) {
+            continue;
+        }
+        ArvGcPropertyNode *const cachable = findProperty(ARV_GC_NODE(child), ARV_GC_PROPERTY_NODE_TYPE_CACHABLE);
+        if (cachable && arv_gc_property_node_get_cachable(cachable, ARV_GC_CACHABLE_UNDEFINED) == ARV_GC_CACHABLE_NO_CACHE) {
+            continue;
+        }
+        Failure failure;
+        const quint64 address = arv_gc_register_get_address(ARV_GC_REGISTER(child), failure.slot());
+        const quint64 length = failure ? 0 : arv_gc_register_get_length(ARV_GC_REGISTER(child), failure.slot());
+        if (!failure) {
+            registers.append({address, address + length});
+        }
     }
-    *bytes = file.read(kMaxDescription + 1);
-    if (file.error() != QFileDevice::NoError) {
-        return file.errorString();
-    }
-    if (bytes->size() > kMaxDescription) {
-        return QStringLiteral("the file is too large");
-    }
-    return bytes->isEmpty() ? QStringLiteral("the file is empty") : QString();
 }
 
 } // namespace
 
 struct GenicamDevice::Private
 {
-    explicit Private(ArvDevice *opened) : device(opened) {}
-    ~Private() { g_object_unref(device); }
+    explicit Private(DevicePointer opened, NetworkLink *network = nullptr, CachingPort *caching = nullptr)
+        : owned(std::move(opened)), device(owned.get()), link(network), cache(caching)
+    {
+        // Both are off unless asked for, and what breaks a rule then passes in silence.
+        arv_device_set_range_check_policy(device, ARV_RANGE_CHECK_POLICY_ENABLE);
+        arv_device_set_access_check_policy(device, ARV_ACCESS_CHECK_POLICY_ENABLE);
+    }
     Q_DISABLE_COPY(Private)
 
     ArvGcNode *node(const QString &name) const
@@ -185,15 +201,24 @@ struct GenicamDevice::Private
     /// because Aravis writes into locked and unavailable nodes without a word.
     long check(const QString &name, RuvoNodeType type, bool toWrite)
     {
+        if (isLost()) {
+            return fail(DeviceFailure, name, lostReason());
+        }
         ArvGcNode *const found = node(name);
         if (typeOf(found) != type) {
             return fail(NoSuchNode, name, QStringLiteral("no such node of this type"));
+        }
+        if (toWrite && isReadOnly()) {
+            return fail(NoAccess, name, QStringLiteral("another program controls the camera"));
         }
         const RuvoNodeAccessMode mode = accessModeOf(found);
         const bool allowed = mode == RuvoNodeReadWrite || mode == (toWrite ? RuvoNodeWriteOnly : RuvoNodeReadOnly);
         return allowed ? long(Ok) : fail(NoAccess, name, toWrite ? QStringLiteral("cannot be written now")
                                                                  : QStringLiteral("cannot be read now"));
     }
+    QString lostReason() const { return link ? link->lostReason() : QString(); }
+    bool isLost() const { return !lostReason().isEmpty(); }
+    bool isReadOnly() const { return link && !link->isController(); }
     long readable(const QString &name, RuvoNodeType type) { return check(name, type, false); }
     long writable(const QString &name, RuvoNodeType type) { return check(name, type, true); }
 
@@ -256,40 +281,74 @@ struct GenicamDevice::Private
         return readResult(name, failure);
     }
 
-    ArvDevice *const device; // one reference is ours
+    /// A command is done when its register, if it can be read, holds something else. Until then the camera would
+    /// answer with what was before.
+    void awaitCommand(const QString &name)
+    {
+        ArvGcPropertyNode *const target = findProperty(node(name), ARV_GC_PROPERTY_NODE_TYPE_P_VALUE);
+        ArvGcPropertyNode *const given = findProperty(node(name), ARV_GC_PROPERTY_NODE_TYPE_COMMAND_VALUE);
+        ArvGcNode *const value = target ? arv_gc_property_node_get_linked_node(target) : nullptr;
+        if (!given || !ARV_IS_GC_INTEGER(value)
+            || arv_gc_feature_node_get_actual_access_mode(ARV_GC_FEATURE_NODE(value)) == ARV_GC_ACCESS_MODE_WO) {
+            return;
+        }
+        Failure failure;
+        const gint64 command = arv_gc_property_node_get_int64(given, failure.slot());
+        for (int pause = 1; pause < kCommandTime && !failure; pause *= 2) {
+            const gint64 now = arv_gc_integer_get_value(ARV_GC_INTEGER(value), failure.slot());
+            cache->drop();
+            if (failure || now != command) {
+                return;
+            }
+            std::this_thread::sleep_for(std::chrono::milliseconds(pause));
+        }
+    }
+
+    const DevicePointer owned;
+    ArvDevice *const device;
+    NetworkLink *const link;  // these are the device's; null for one in this process
+    CachingPort *const cache;
     QString error;
 };
 
 std::unique_ptr<GenicamDevice> GenicamDevice::openBuiltIn(const QString &descriptionFile, QString *error, Clock clock)
 {
-    Q_INIT_RESOURCE(smartcamera); // a static library does not do it by itself
-    const QString fileName = descriptionFile.isEmpty() ? QStringLiteral(":/devices/smartcamera.xml") : descriptionFile;
-    QByteArray description;
-    QString why = readDescription(fileName, &description);
-    ArvDevice *camera = nullptr;
-    if (why.isEmpty()) {
-        camera = newBuiltInCamera(description, clock ? std::move(clock) : Clock(realTime), &why);
-    }
-    std::unique_ptr<GenicamDevice> device = camera ? open(camera, &why) : nullptr;
-    if (!device && error) {
-        *error = QStringLiteral("%1: %2").arg(fileName, why.simplified());
-    }
-    return device;
-}
-
-std::unique_ptr<GenicamDevice> GenicamDevice::open(ArvDevice *device, QString *error)
-{
-    auto implementation = std::make_unique<Private>(device);
-    if (!ARV_IS_GC(arv_device_get_genicam(device))) {
-        if (error) {
-            *error = QStringLiteral("it does not describe itself");
-        }
+    QString why;
+    const QByteArray description = CameraDescription::read(descriptionFile, &why);
+    DevicePointer camera = why.isEmpty() ? newBuiltInCamera(description, std::move(clock), &why) : nullptr;
+    if (!camera) {
+        *error = QStringLiteral("%1: %2").arg(CameraDescription::fileName(descriptionFile), why.simplified());
         return nullptr;
     }
-    // Both are off unless asked for, and what breaks a rule then passes in silence.
-    arv_device_set_range_check_policy(device, ARV_RANGE_CHECK_POLICY_ENABLE);
-    arv_device_set_access_check_policy(device, ARV_ACCESS_CHECK_POLICY_ENABLE);
-    return std::unique_ptr<GenicamDevice>(new GenicamDevice(std::move(implementation)));
+    return std::unique_ptr<GenicamDevice>(new GenicamDevice(std::make_unique<Private>(std::move(camera))));
+}
+
+std::unique_ptr<GenicamDevice> GenicamDevice::openNetwork(const QString &address, QString *error)
+{
+    QString why;
+    std::unique_ptr<NetworkLink> link = NetworkLink::open(address, &why);
+    NetworkLink *const wire = link.get();
+    CachingPort *port = nullptr;
+    DevicePointer device;
+    if (link) {
+        const QByteArray xml = link->description();
+        CameraDescription description;
+        why = description.parse(xml);
+        auto owned = std::make_unique<CachingPort>(std::move(link));
+        port = owned.get();
+        device = why.isEmpty() ? newPortDevice(std::move(owned), xml) : nullptr;
+    }
+    if (!device) {
+        *error = QStringLiteral("%1: %2").arg(address, why.isEmpty() ? QStringLiteral("it does not describe itself")
+                                                                     : why.simplified());
+        return nullptr;
+    }
+    QVector<CachingPort::Extent> cachable;
+    port->setOffline(true); // an address that is found all the same is found without the camera
+    collectCachable(ARV_DOM_NODE(arv_device_get_genicam(device.get())), cachable);
+    port->setOffline(false);
+    port->setCachable(std::move(cachable));
+    return std::unique_ptr<GenicamDevice>(new GenicamDevice(std::make_unique<Private>(std::move(device), wire, port)));
 }
 
 GenicamDevice::GenicamDevice(std::unique_ptr<Private> implementation)
@@ -306,7 +365,38 @@ QString GenicamDevice::lastError() const
 
 bool GenicamDevice::isReadOnly() const
 {
-    return false;
+    return d->isReadOnly();
+}
+
+QString GenicamDevice::lostReason() const
+{
+    return d->lostReason();
+}
+
+void GenicamDevice::onLost(std::function<void()> callback)
+{
+    if (d->link) {
+        d->link->onLost(std::move(callback));
+    }
+}
+
+void GenicamDevice::dropCache()
+{
+    if (d->cache) {
+        d->cache->drop();
+    }
+}
+
+void GenicamDevice::setCaching(bool on)
+{
+    if (d->cache) {
+        d->cache->setCaching(on);
+    }
+}
+
+quint64 GenicamDevice::roundTrips() const
+{
+    return d->link ? d->link->requests() : 0;
 }
 
 QStringList GenicamDevice::nodes() const
@@ -510,6 +600,9 @@ long GenicamDevice::executeCMD(const QString &name)
     }
     Failure failure;
     arv_device_execute_command(d->device, name.toUtf8().constData(), failure.slot());
+    if (!failure && d->cache) {
+        d->awaitCommand(name);
+    }
     return d->writeResult(name, failure);
 }
 
@@ -520,5 +613,10 @@ RuvoNodeType GenicamDevice::getNodeType(const QString &name)
 
 RuvoNodeAccessMode GenicamDevice::getNodeAccessMode(const QString &name)
 {
-    return accessModeOf(d->node(name));
+    const RuvoNodeAccessMode mode = accessModeOf(d->node(name));
+    if (mode == RuvoNodeNotImplemented || (!d->isLost() && !d->isReadOnly())) {
+        return mode;
+    }
+    const bool readable = mode == RuvoNodeReadWrite || mode == RuvoNodeReadOnly;
+    return readable && !d->isLost() ? RuvoNodeReadOnly : RuvoNodeNotAvailable;
 }

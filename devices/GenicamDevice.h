@@ -3,12 +3,9 @@
 #include "VyViewerCore/Device.h"
 
 #include <QStringList>
-#include <QtGlobal>
 
 #include <functional>
 #include <memory>
-
-typedef struct _ArvDevice ArvDevice; // NOLINT(bugprone-reserved-identifier): the name is Aravis'
 
 /// A GenICam device, or its simulation inside this process, as the host sees it.
 ///
@@ -35,10 +32,12 @@ public:
     static std::unique_ptr<GenicamDevice> openBuiltIn(const QString &descriptionFile, QString *error,
                                                       Clock clock = {});
 
-    /// Any opened device; takes over the caller's reference. Returns null, and the reason, for one that
-    /// describes no node of a type we know.
-    static std::unique_ptr<GenicamDevice> open(ArvDevice *device, QString *error);
+    /// The GigE Vision camera at an IPv4 address. Takes control of it, unless somebody else has it: then it can
+    /// only be read. Blocks, some five seconds when nothing answers: not for the GUI thread. The result may be
+    /// handed to another thread. Returns null, and the reason in one line, when it cannot be opened.
+    static std::unique_ptr<GenicamDevice> openNetwork(const QString &address, QString *error);
 
+    /// Does not wait for a camera on the network to be released.
     ~GenicamDevice() override;
 
     /// Why the last failed call failed, in words for the log or the status bar.
@@ -46,6 +45,19 @@ public:
 
     /// Somebody else controls the camera: nothing can be written.
     bool isReadOnly() const;
+
+    /// Why a camera on the network is lost, or empty. It is after the first request that was not answered in
+    /// time, two seconds at most, or when it was restarted or obeys somebody else; from then on every call fails
+    /// at once. `callback` is called once, on any thread, and must not call the device.
+    QString lostReason() const;
+    void onLost(std::function<void()> callback);
+
+    /// What is read over a network is kept until a write, a command, or the return to the event loop. Whoever
+    /// learns otherwise that the camera has changed drops it.
+    void dropCache();
+    void setCaching(bool on);
+    /// Requests sent to the camera so far; 0 for one in this process.
+    quint64 roundTrips() const;
 
     /// Every feature of the camera's own description, in its order; of each the unit and an explanation, empty
     /// where the description gives none.

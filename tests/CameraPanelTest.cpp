@@ -1,3 +1,4 @@
+#include "CameraProcess.h"
 #include "PanelProbe.h"
 
 #include "devices/GenicamDevice.h"
@@ -21,7 +22,7 @@
 using namespace PanelProbe;
 using namespace VyViewer;
 
-/// The panel on the simulated camera, operated as a user would.
+/// The panel on the simulated camera, in this process or on a network, operated as a user would.
 class CameraPanelTest : public QObject
 {
     Q_OBJECT
@@ -58,6 +59,7 @@ class CameraPanelTest : public QObject
         Q_EMIT manager->deviceGrabStatusUpdate(m_camera.get(), start ? 1 : 0);
     }
 
+    CameraProcess m_process;
     std::unique_ptr<GenicamDevice> m_camera;
     std::unique_ptr<VyTriggerConfigWdg> m_panel;
 
@@ -65,7 +67,14 @@ private Q_SLOTS:
     void init()
     {
         QString error;
-        m_camera = GenicamDevice::openBuiltIn({}, &error);
+        if (qEnvironmentVariableIsSet("CAMERA_ADDRESS")) {
+            const QString address = qEnvironmentVariable("CAMERA_ADDRESS");
+            const QString answer = m_process.start({QStringLiteral("--address"), address});
+            QVERIFY2(answer.contains(QStringLiteral("answers")), qPrintable(answer));
+            m_camera = GenicamDevice::openNetwork(address, &error);
+        } else {
+            m_camera = GenicamDevice::openBuiltIn({}, &error);
+        }
         QVERIFY2(m_camera, qPrintable(error));
         m_panel = std::make_unique<VyTriggerConfigWdg>();
         m_panel->setVyDevice(m_camera.get());

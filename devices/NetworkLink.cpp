@@ -1,0 +1,298 @@
+#include <arv.h> // before Qt
+
+#include "NetworkLink.h"
+
+#include "PortDevice.h"
+
+#include <chrono>
+#include <condition_variable>
+#include <cstring>
+#include <deque>
+#include <mutex>
+#include <thread>
+
+namespace {
+
+constexpr std::chrono::milliseconds kTimeout(2000); // for one request, with its repetitions
+constexpr quint16 kControlPort = 3956;              // GigE Vision's
+constexpr quint32 kRequestSize = 512;               // bytes that one packet carries
+
+template <typename T>
+struct Reference : std::unique_ptr<T, decltype(&g_object_unref)>
+{
+    explicit Reference(T *object) : std::unique_ptr<T, decltype(&g_object_unref)>(object, &g_object_unref) {}
+};
+
+QString take(GError *error)
+{
+    const QString text = error ? QString::fromUtf8(error->message) : QStringLiteral("no reason given");
+    g_clear_error(&error);
+    return text;
+}
+
+/// Counts the threads that may still be releasing a camera, and has the process wait for them: a camera that is
+/// not released stays reserved for seconds.
+class Running
+{
+public:
+    void add(int change)
+    {
+        const std::lock_guard<std::mutex> lock(m_mutex);
+        m_count += change;
+        m_changed.notify_all();
+    }
+    ~Running()
+    {
+        std::unique_lock<std::mutex> lock(m_mutex);
+        m_changed.wait(lock, [this] { return m_count == 0; });
+    }
+
+private:
+    std::mutex m_mutex;
+    std::condition_variable m_changed;
+    int m_count = 0;
+};
+
+Running &running()
+{
+    static Running instance;
+    return instance;
+}
+
+/// Our own address on the network where the camera is: nothing is sent to find out.
+GInetAddress *localAddress(GInetAddress *remote, GError **error)
+{
+    const Reference<GSocket> socket(g_socket_new(G_SOCKET_FAMILY_IPV4, G_SOCKET_TYPE_DATAGRAM, G_SOCKET_PROTOCOL_UDP, error));
+    const Reference<GSocketAddress> target(g_inet_socket_address_new(remote, kControlPort));
+    if (!socket || !g_socket_connect(socket.get(), target.get(), nullptr, error)) {
+        return nullptr;
+    }
+    const Reference<GSocketAddress> local(g_socket_get_local_address(socket.get(), error));
+    return local ? G_INET_ADDRESS(g_object_ref(g_inet_socket_address_get_address(G_INET_SOCKET_ADDRESS(local.get())))) : nullptr;
+}
+
+DevicePointer openDevice(const QString &address, QString *error)
+{
+    const Reference<GInetAddress> remote(g_inet_address_new_from_string(address.toUtf8().constData()));
+    if (!remote || g_inet_address_get_family(remote.get()) != G_SOCKET_FAMILY_IPV4
+        || g_inet_address_get_is_any(remote.get()) || g_inet_address_get_is_multicast(remote.get())) {
+        *error = QStringLiteral("it is not the IPv4 address of a camera, such as 192.168.0.10");
+        return nullptr;
+    }
+    GError *failure = nullptr;
+    const Reference<GInetAddress> local(localAddress(remote.get(), &failure));
+    ArvDevice *const device = local ? arv_gv_device_new(local.get(), remote.get(), &failure) : nullptr;
+    if (device) {
+        return DevicePointer(device);
+    }
+    const bool silent = failure && failure->domain == ARV_DEVICE_ERROR && failure->code == ARV_DEVICE_ERROR_TIMEOUT;
+    *error = take(failure);
+    if (silent) {
+        *error = QStringLiteral("no camera answers");
+    }
+    return nullptr;
+}
+
+} // namespace
+
+struct NetworkLink::Shared
+{
+    struct Request
+    {
+        quint64 address;
+        QByteArray bytes;
+        bool isWrite;
+        bool done = false;
+        QString error;
+    };
+
+    void run(const std::shared_ptr<Shared> &self, const QString &address);
+    bool open(const QString &address, DevicePointer &device);
+    static bool serve(ArvDevice *device, Request &request);
+    void lose(const QString &reason);
+
+    std::mutex mutex; // for all that follows
+    std::condition_variable changed;
+    enum { Opening, Open, Failed, Closing } state = Opening;
+    std::deque<std::shared_ptr<Request>> queue;
+    QString error;  // of opening
+    QString lost;   // why, once it is
+    std::function<void()> onLost;
+    QByteArray description;
+    bool isController = false;
+};
+
+bool NetworkLink::Shared::open(const QString &address, DevicePointer &device)
+{
+    QString why;
+    device = openDevice(address, &why);
+    const std::lock_guard<std::mutex> lock(mutex);
+    if (device) {
+        size_t size = 0;
+        const char *const xml = arv_device_get_genicam_xml(device.get(), &size);
+        description = QByteArray(xml, int(size));
+        isController = arv_gv_device_is_controller(ARV_GV_DEVICE(device.get()));
+    }
+    error = why;
+    state = device ? Open : Failed;
+    changed.notify_all();
+    return bool(device);
+}
+
+void NetworkLink::Shared::run(const std::shared_ptr<Shared> &self, const QString &address)
+{
+    DevicePointer device;
+    if (!open(address, device)) {
+        return;
+    }
+    // On the heartbeat's thread. Releasing the device ends that thread, and we outlive the device.
+    g_signal_connect(device.get(), "control-lost", G_CALLBACK(+[](ArvDevice *, gpointer shared) {
+        static_cast<Shared *>(shared)->lose(QStringLiteral("The camera is gone, was restarted, or obeys another program now."));
+    }), self.get());
+    std::unique_lock<std::mutex> lock(mutex);
+    while (state == Open) {
+        if (queue.empty()) {
+            changed.wait(lock);
+            continue;
+        }
+        const std::shared_ptr<Request> request = queue.front();
+        queue.pop_front();
+        lock.unlock();
+        const bool answered = serve(device.get(), *request);
+        if (!answered) {
+            lose(QStringLiteral("The camera does not answer any more."));
+        }
+        lock.lock();
+        request->done = true;
+        changed.notify_all();
+    }
+    lock.unlock();
+    device.reset();
+}
+
+/// Whether the camera answered, if only with a refusal.
+bool NetworkLink::Shared::serve(ArvDevice *device, Request &request)
+{
+    GError *failure = nullptr;
+    const auto size = quint32(request.bytes.size());
+    const bool ok = request.isWrite ? arv_device_write_memory(device, request.address, size, request.bytes.data(), &failure)
+                                    : arv_device_read_memory(device, request.address, size, request.bytes.data(), &failure);
+    if (ok) {
+        return true;
+    }
+    const bool answered = failure && failure->code != ARV_DEVICE_ERROR_TIMEOUT && failure->code != ARV_DEVICE_ERROR_NOT_CONNECTED;
+    request.error = take(failure);
+    return answered;
+}
+
+void NetworkLink::Shared::lose(const QString &reason)
+{
+    const std::lock_guard<std::mutex> lock(mutex);
+    if (!lost.isEmpty() || state != Open) {
+        return;
+    }
+    lost = reason;
+    changed.notify_all();
+    if (onLost) {
+        onLost(); // under the lock, so that nobody who has closed the link is called
+    }
+}
+
+std::unique_ptr<NetworkLink> NetworkLink::open(const QString &address, QString *error)
+{
+    auto shared = std::make_shared<Shared>();
+    running().add(1);
+    std::thread([shared, address] {
+        shared->run(shared, address);
+        running().add(-1);
+    }).detach();
+    std::unique_lock<std::mutex> lock(shared->mutex);
+    shared->changed.wait(lock, [&shared] { return shared->state != Shared::Opening; });
+    *error = shared->error;
+    return shared->state == Shared::Open ? std::unique_ptr<NetworkLink>(new NetworkLink(shared)) : nullptr;
+}
+
+NetworkLink::NetworkLink(std::shared_ptr<Shared> shared)
+    : m_shared(std::move(shared))
+{
+}
+
+NetworkLink::~NetworkLink()
+{
+    const std::lock_guard<std::mutex> lock(m_shared->mutex);
+    m_shared->state = Shared::Closing;
+    m_shared->onLost = nullptr;
+    m_shared->changed.notify_all();
+}
+
+QByteArray NetworkLink::description() const
+{
+    return m_shared->description; // as it was opened
+}
+
+bool NetworkLink::isController() const
+{
+    return m_shared->isController;
+}
+
+QString NetworkLink::lostReason() const
+{
+    const std::lock_guard<std::mutex> lock(m_shared->mutex);
+    return m_shared->lost;
+}
+
+quint64 NetworkLink::requests() const
+{
+    return m_requests;
+}
+
+void NetworkLink::onLost(std::function<void()> callback)
+{
+    const std::lock_guard<std::mutex> lock(m_shared->mutex);
+    if (m_shared->lost.isEmpty()) {
+        m_shared->onLost = std::move(callback);
+    } else {
+        callback();
+    }
+}
+
+bool NetworkLink::read(quint64 address, void *bytes, quint32 size, QString *error)
+{
+    QByteArray answer(int(size), '\0');
+    const bool ok = request(address, answer, false, error);
+    if (ok) {
+        std::memcpy(bytes, answer.constData(), size);
+    }
+    return ok;
+}
+
+bool NetworkLink::write(quint64 address, const void *bytes, quint32 size, QString *error)
+{
+    QByteArray data(static_cast<const char *>(bytes), int(size));
+    return request(address, data, true, error);
+}
+
+bool NetworkLink::request(quint64 address, QByteArray &bytes, bool isWrite, QString *error)
+{
+    const auto request = std::make_shared<Shared::Request>(Shared::Request{address, bytes, isWrite, false, {}});
+    std::unique_lock<std::mutex> lock(m_shared->mutex);
+    if (m_shared->lost.isEmpty()) {
+        m_requests += (quint32(bytes.size()) + kRequestSize - 1) / kRequestSize;
+        m_shared->queue.push_back(request);
+        m_shared->changed.notify_all();
+        const bool inTime = m_shared->changed.wait_for(lock, kTimeout, [this, &request] {
+            return request->done || !m_shared->lost.isEmpty();
+        });
+        if (!inTime) {
+            lock.unlock();
+            m_shared->lose(QStringLiteral("The camera does not answer any more."));
+            lock.lock();
+        }
+    }
+    if (!m_shared->lost.isEmpty() || !request->error.isEmpty()) {
+        *error = m_shared->lost.isEmpty() ? request->error : m_shared->lost;
+        return false;
+    }
+    bytes = request->bytes;
+    return true;
+}

@@ -1,0 +1,299 @@
+#include "CameraProcess.h"
+#include "PanelProbe.h"
+
+#include "devices/CachingPort.h"
+#include "devices/CameraConnection.h"
+#include "devices/CameraFinder.h"
+#include "panel/VyTriggerConfigWdg.h"
+#include "parampage/DeviceEvents.h"
+
+#include <VyViewerCore/IDeviceManager.h>
+
+#include <cstring>
+
+using VyViewer::IDeviceManager;
+using VyViewer::Singleton;
+
+namespace {
+
+const QString kAddress = QStringLiteral("127.0.0.1");
+const QString kDelay = QStringLiteral("InputTriggerDelay");
+const QString kMode = QStringLiteral("InputTriggerMode");
+const QString kSource = QStringLiteral("InputTriggerSource");
+
+/// 4096 bytes that count how often they are asked for. Some cameras do not give registers out together.
+class CountingPort final : public RegisterPort
+{
+public:
+    bool read(quint64 address, void *bytes, quint32 size, QString *error) override
+    {
+        reads.append(QStringLiteral("%1+%2").arg(address).arg(size));
+        if (size > largest) {
+            *error = QStringLiteral("too much");
+            return false;
+        }
+        std::memcpy(bytes, memory.constData() + address, size);
+        return true;
+    }
+    bool write(quint64 address, const void *bytes, quint32 size, QString *) override
+    {
+        memory.replace(int(address), int(size), static_cast<const char *>(bytes), int(size));
+        return true;
+    }
+
+    QStringList reads;
+    quint32 largest = 4096;
+    QByteArray memory = QByteArray(4096, 'a');
+};
+
+float delayOf(Device *device)
+{
+    float value = -1;
+    float min = 0;
+    float max = 0;
+    float inc = 0;
+    return device->getParamFloat(kDelay, value, min, max, inc) == 0 ? value : -1;
+}
+
+/// Does something in the middle of what a device is asked.
+class InterruptedDevice final : public Device
+{
+public:
+    InterruptedDevice(Device *device, std::function<void()> interruption)
+        : m_device(device), m_interruption(std::move(interruption)) {}
+
+    void interruptAfter(int calls) { m_left = calls; }
+
+    long getParamInt(const QString &n, int &v, int &a, int &b, int &c) override { return next()->getParamInt(n, v, a, b, c); }
+    long getParamFloat(const QString &n, float &v, float &a, float &b, float &c) override { return next()->getParamFloat(n, v, a, b, c); }
+    long getParamBool(const QString &n, bool &v) override { return next()->getParamBool(n, v); }
+    long getParamEnum(const QString &n, QString &v, QList<QString> &e) override { return next()->getParamEnum(n, v, e); }
+    long getParamString(const QString &n, QString &v) override { return next()->getParamString(n, v); }
+    long setParamInt(const QString &n, int v) override { return next()->setParamInt(n, v); }
+    long setParamFloat(const QString &n, float v) override { return next()->setParamFloat(n, v); }
+    long setParamBool(const QString &n, bool v) override { return next()->setParamBool(n, v); }
+    long setParamEnum(const QString &n, const QString &v) override { return next()->setParamEnum(n, v); }
+    long setParamString(const QString &n, const QString &v) override { return next()->setParamString(n, v); }
+    long executeCMD(const QString &n) override { return next()->executeCMD(n); }
+    RuvoNodeType getNodeType(const QString &n) override { return next()->getNodeType(n); }
+    RuvoNodeAccessMode getNodeAccessMode(const QString &n) override { return next()->getNodeAccessMode(n); }
+
+private:
+    Device *next()
+    {
+        if (m_left-- == 0) {
+            m_interruption();
+        }
+        return m_device;
+    }
+
+    Device *const m_device;
+    int m_left = -1;
+    const std::function<void()> m_interruption;
+};
+
+} // namespace
+
+class NetworkCameraTest : public QObject
+{
+    Q_OBJECT
+
+    void openCamera()
+    {
+        m_connection.open();
+        QTRY_COMPARE_WITH_TIMEOUT(m_connection.state(), CameraConnection::Open, 10000);
+    }
+    GenicamDevice *camera() const { return m_connection.device(); }
+
+    CameraProcess m_process;
+    CameraConnection m_connection{kAddress};
+
+private Q_SLOTS:
+    void init()
+    {
+        const QString answer = m_process.start();
+        QVERIFY2(answer.contains(kAddress), qPrintable(answer));
+        openCamera();
+    }
+    void cleanup()
+    {
+        m_connection.close();
+        m_process.kill();
+    }
+
+    void badServersSayWhy()
+    {
+        const struct { const char *arguments; const char *named; } cases[] = {
+            {"--address 127.0.0.1", "already in use"}, {"--address 192.0.2.1", "192.0.2.1"},
+            {"--address camera", "camera"}, {"--address 127.0.0.2 --serial 12345678901234567", "DeviceSerialNumber"},
+            {"--description nowhere.xml --address 127.0.0.2", "nowhere.xml"}, {"--bogus", "bogus"}};
+        for (const auto &bad : cases) {
+            CameraProcess process;
+            const QString answer = process.start(QString::fromLatin1(bad.arguments).split(QLatin1Char(' ')));
+            QVERIFY2(answer.startsWith(QStringLiteral("vycamera: ")) && answer.count(QLatin1Char('\n')) == 1
+                         && answer.contains(QString::fromLatin1(bad.named)), qPrintable(answer));
+        }
+        // None of them disturbed the one that runs.
+        QVERIFY(camera()->setParamFloat(kDelay, 5) == 0);
+    }
+
+    void badAddressesSayWhy()
+    {
+        for (const char *address : {"", "camera", "0.0.0.0", "224.0.0.1", "::1", "127.0.0.3"}) {
+            QString error;
+            QVERIFY(!GenicamDevice::openNetwork(QString::fromLatin1(address), &error));
+            QVERIFY2(error.startsWith(QString::fromLatin1(address) + QLatin1String(": ")), qPrintable(error));
+        }
+    }
+
+    void refusedWritesChangeNothing()
+    {
+        QVERIFY(camera()->setParamFloat(kDelay, 12.5F) == 0);
+        QVERIFY(camera()->setParamFloat(kDelay, 1e6F) == GenicamDevice::InvalidValue);
+        QVERIFY(camera()->lastError().contains(kDelay));
+        QCOMPARE(delayOf(camera()), 12.5F);
+        QVERIFY(camera()->executeCMD(QStringLiteral("AcquisitionStart")) == 0);
+        QVERIFY(camera()->setParamFloat(kDelay, 1) == GenicamDevice::NoAccess); // locked before the command returned
+        QVERIFY(camera()->executeCMD(QStringLiteral("AcquisitionStop")) == 0);
+        QCOMPARE(delayOf(camera()), 12.5F);
+    }
+
+    void aSecondControllerReadsOnly()
+    {
+        CameraConnection second(kAddress);
+        second.open();
+        QTRY_COMPARE_WITH_TIMEOUT(second.state(), CameraConnection::Open, 10000);
+        GenicamDevice *const other = second.device();
+        QVERIFY(other->isReadOnly());
+        QVERIFY(!camera()->isReadOnly());
+        QCOMPARE(other->getNodeAccessMode(kDelay), RuvoNodeReadOnly);
+        QCOMPARE(other->getNodeAccessMode(QStringLiteral("AcquisitionStart")), RuvoNodeNotAvailable);
+        QVERIFY(other->setParamFloat(kDelay, 1) == GenicamDevice::NoAccess);
+        QVERIFY(other->executeCMD(QStringLiteral("AcquisitionStart")) == GenicamDevice::NoAccess);
+
+        // The camera changes without its doing: what it sees stays of one piece until something tells it, or until
+        // the next action.
+        const std::function<void()> news[] = {
+            [other] { DeviceEvents::post(QStringLiteral("UserSetLoad"), DeviceEvents::payload(other)); },
+            [other] { Q_EMIT Singleton<IDeviceManager>::getInstance()->deviceGrabStatusUpdate(other, 1); },
+            [] { QCoreApplication::processEvents(); }};
+        float delay = delayOf(other);
+        for (const auto &tell : news) {
+            QVERIFY(camera()->setParamFloat(kDelay, delay + 1) == 0);
+            QCOMPARE(delayOf(other), delay);
+            tell();
+            QCOMPARE(delayOf(other), ++delay);
+        }
+        m_connection.close();
+        QTRY_VERIFY([&second] { // as soon as the first is released, which happens in the background
+            second.open();
+            return QTest::qWaitFor([&second] { return second.state() == CameraConnection::Open; }, 10000)
+                && !second.device()->isReadOnly();
+        }());
+    }
+
+    void aCameraThatDiesInARefreshIsLostAtOnceAndComesBack()
+    {
+        InterruptedDevice device(camera(), [this] { m_process.kill(); });
+        {
+            VyTriggerConfigWdg panel;
+            panel.setVyDevice(&device);
+            panel.show();
+            QCoreApplication::processEvents();
+            QSignalSpy changes(&m_connection, &CameraConnection::stateChanged);
+            const quint64 before = camera()->roundTrips();
+            device.interruptAfter(3);
+            panel.hide();
+            panel.show();
+            QVERIFY2(changes.isEmpty(), "nobody is told in the middle of a refresh");
+            QVERIFY(!camera()->lostReason().isEmpty());
+            const quint64 after = camera()->roundTrips();
+            QVERIFY(camera()->getNodeAccessMode(kMode) == RuvoNodeNotAvailable);
+            QVERIFY(camera()->setParamEnum(kMode, QStringLiteral("Hold")) == GenicamDevice::DeviceFailure);
+            QVERIFY(camera()->lastError().contains(camera()->lostReason()));
+            QCOMPARE(camera()->roundTrips(), after); // nothing more was tried
+            QVERIFY(after > before + 1); // some were answered
+        }
+        QTRY_COMPARE(m_connection.state(), CameraConnection::Lost);
+        QCOMPARE(m_connection.reason(), camera()->lostReason());
+
+        m_connection.open();
+        QTRY_COMPARE_WITH_TIMEOUT(m_connection.state(), CameraConnection::Failed, 10000);
+        QVERIFY(m_connection.reason().contains(kAddress));
+        QVERIFY(!camera());
+        QVERIFY(m_process.start().contains(kAddress));
+        openCamera();
+        QVERIFY(!camera()->isReadOnly());
+        QCOMPARE(delayOf(camera()), 0.F);
+        QVERIFY(camera()->setParamFloat(kDelay, 3) == 0);
+    }
+
+    void aRestartedCameraIsNoticedWithoutACall()
+    {
+        m_process.kill();
+        QVERIFY(m_process.start().contains(kAddress));
+        QTRY_COMPARE_WITH_TIMEOUT(m_connection.state(), CameraConnection::Lost, 20000);
+        QVERIFY(!m_connection.reason().isEmpty());
+    }
+
+    void closingWhileOpeningLeavesNothing()
+    {
+        m_connection.open();
+        m_connection.close();
+        QTest::qWait(100);
+        QCOMPARE(m_connection.state(), CameraConnection::Closed);
+        QVERIFY(!m_connection.device());
+    }
+
+    void everyCameraIsFound()
+    {
+        CameraProcess second;
+        QVERIFY(second.start({QStringLiteral("--address"), QStringLiteral("10.0.0.1"), QStringLiteral("--serial"),
+                              QStringLiteral("EV-2")}).contains(QStringLiteral("10.0.0.1")));
+        QStringList found;
+        for (const CameraFinder::Camera &each : CameraFinder::find()) {
+            found.append(QStringList{each.address, each.vendor, each.model, each.serial}.join(QLatin1Char('|')));
+        }
+        found.sort();
+        QCOMPARE(found, (QStringList{QStringLiteral("10.0.0.1|Example Vision|CodeReader 5|EV-2"),
+                                     QStringLiteral("127.0.0.1|Example Vision|CodeReader 5|EV-000001")}));
+    }
+
+    void neighboursAreFetchedTogether()
+    {
+        auto owned = std::make_unique<CountingPort>();
+        CountingPort &far = *owned;
+        CachingPort port(std::move(owned));
+        // Side by side, one within another, behind a gap, too long with its neighbour, and too long alone.
+        port.setCachable({{12, 16}, {0, 4}, {4, 12}, {6, 8}, {20, 24}, {24, 536}, {1000, 2000}});
+        QString error;
+        char bytes[1024];
+        const auto read = [&](quint64 address, quint32 size) { return port.read(address, bytes, size, &error); };
+        const auto expect = [&far](const char *reads) {
+            QCOMPARE(far.reads.join(QLatin1Char(' ')), QString::fromLatin1(reads));
+            far.reads.clear();
+        };
+        QVERIFY(read(4, 4) && read(0, 16) && read(12, 4));
+        expect("0+16");
+        QVERIFY(read(16, 4) && read(16, 4) && read(20, 4) && read(1000, 1000));
+        expect("16+4 20+4 1000+1000");
+        QVERIFY(read(14, 4)); // half in, half out
+        expect("14+4");
+        QVERIFY(port.write(8, "bcde", 4, &error) && read(9, 2));
+        QCOMPARE(QByteArray(bytes, 2), QByteArray("cd"));
+        expect("0+16");
+        far.largest = 4;
+        port.drop();
+        QVERIFY(read(4, 4) && read(8, 4));
+        expect("0+16 4+4 8+4");
+        QVERIFY(!read(0, 8)); // refused is refused, and nothing of it kept
+        QVERIFY(!read(0, 8));
+        expect("0+8 0+8");
+        port.setCaching(false);
+        QVERIFY(read(4, 4) && read(4, 4));
+        expect("4+4 4+4");
+    }
+};
+
+QTEST_MAIN(NetworkCameraTest)
+#include "NetworkCameraTest.moc"
