@@ -206,20 +206,19 @@ struct GenicamDevice::Private
         }
         ArvGcNode *const found = node(name);
         if (typeOf(found) != type) {
-            return fail(NoSuchNode, name, QStringLiteral("no such node of this type"));
+            return fail(NoSuchNode, name, tr("no such node of this type"));
         }
         if (toWrite && isReadOnly()) {
-            return fail(NoAccess, name, QStringLiteral("another program controls the camera"));
+            return fail(NoAccess, name, tr("another program controls the camera"));
         }
         const RuvoNodeAccessMode mode = accessModeOf(found);
         const bool allowed = mode == RuvoNodeReadWrite || mode == (toWrite ? RuvoNodeWriteOnly : RuvoNodeReadOnly);
-        return allowed ? long(Ok) : fail(NoAccess, name, toWrite ? QStringLiteral("cannot be written now")
-                                                                 : QStringLiteral("cannot be read now"));
+        return allowed ? long(Ok) : fail(NoAccess, name, toWrite ? tr("cannot be written now")
+                                                                 : tr("cannot be read now"));
     }
     QString lostReason() const { return link ? link->lostReason() : QString(); }
     bool isLost() const { return !lostReason().isEmpty(); }
     bool isReadOnly() const { return link && !link->isController(); }
-    long readable(const QString &name, RuvoNodeType type) { return check(name, type, false); }
     long writable(const QString &name, RuvoNodeType type) { return check(name, type, true); }
 
     long readResult(const QString &name, const Failure &failure)
@@ -231,6 +230,26 @@ struct GenicamDevice::Private
     long writeResult(const QString &name, const Failure &failure)
     {
         return failure ? fail(failure.isRule() ? InvalidValue : DeviceFailure, name, failure.text()) : long(Ok);
+    }
+
+    template <typename T>
+    long read(const QString &name, RuvoNodeType type, T (*get)(ArvDevice *, const char *, GError **), T &value)
+    {
+        if (const long status = check(name, type, false)) {
+            return status;
+        }
+        Failure failure;
+        value = get(device, name.toUtf8().constData(), failure.slot());
+        return readResult(name, failure);
+    }
+
+    /// Of a node that is known to be writable.
+    template <typename T>
+    long write(const QString &name, void (*set)(ArvDevice *, const char *, T, GError **), T value)
+    {
+        Failure failure;
+        set(device, name.toUtf8().constData(), value, failure.slot());
+        return writeResult(name, failure);
     }
 
     /// Range and increment of an integer or a float. A node may do without; Aravis answers that with a default
@@ -339,7 +358,7 @@ std::unique_ptr<GenicamDevice> GenicamDevice::openNetwork(const QString &address
         device = why.isEmpty() ? newPortDevice(std::move(owned), xml) : nullptr;
     }
     if (!device) {
-        *error = QStringLiteral("%1: %2").arg(address, why.isEmpty() ? QStringLiteral("it does not describe itself")
+        *error = QStringLiteral("%1: %2").arg(address, why.isEmpty() ? tr("it does not describe itself")
                                                                      : why.simplified());
         return nullptr;
     }
@@ -428,13 +447,9 @@ QString GenicamDevice::description(const QString &name) const
 
 long GenicamDevice::getParamInt(const QString &name, int &value, int &min, int &max, int &inc)
 {
-    if (const long status = d->readable(name, RuvoNodeInteger)) {
+    gint64 current = 0;
+    if (const long status = d->read(name, RuvoNodeInteger, arv_device_get_integer_feature_value, current)) {
         return status;
-    }
-    Failure failure;
-    const gint64 current = arv_device_get_integer_feature_value(d->device, name.toUtf8().constData(), failure.slot());
-    if (failure) {
-        return d->readResult(name, failure);
     }
     gint64 minimum = 0;
     gint64 maximum = 0;
@@ -449,16 +464,12 @@ long GenicamDevice::getParamInt(const QString &name, int &value, int &min, int &
 
 long GenicamDevice::getParamFloat(const QString &name, float &value, float &min, float &max, float &inc)
 {
-    if (const long status = d->readable(name, RuvoNodeFloat)) {
+    double current = 0;
+    if (const long status = d->read(name, RuvoNodeFloat, arv_device_get_float_feature_value, current)) {
         return status;
     }
-    Failure failure;
-    const double current = arv_device_get_float_feature_value(d->device, name.toUtf8().constData(), failure.slot());
-    if (failure) {
-        return d->readResult(name, failure);
-    }
     if (!std::isfinite(current)) {
-        return d->fail(DeviceFailure, name, QStringLiteral("the device holds no number"));
+        return d->fail(DeviceFailure, name, tr("the device holds no number"));
     }
     double minimum = 0;
     double maximum = 0;
@@ -475,26 +486,20 @@ long GenicamDevice::getParamFloat(const QString &name, float &value, float &min,
 
 long GenicamDevice::getParamBool(const QString &name, bool &value)
 {
-    if (const long status = d->readable(name, RuvoNodeBoolean)) {
-        return status;
-    }
-    Failure failure;
-    value = arv_device_get_boolean_feature_value(d->device, name.toUtf8().constData(), failure.slot());
-    return d->readResult(name, failure);
+    gboolean current = FALSE;
+    const long status = d->read(name, RuvoNodeBoolean, arv_device_get_boolean_feature_value, current);
+    value = current;
+    return status;
 }
 
 long GenicamDevice::getParamEnum(const QString &name, QString &value, QList<QString> &entries)
 {
-    if (const long status = d->readable(name, RuvoNodeEnumeration)) {
+    const char *current = nullptr;
+    if (const long status = d->read(name, RuvoNodeEnumeration, arv_device_get_string_feature_value, current)) {
         return status;
     }
-    Failure failure;
-    const char *const current = arv_device_get_string_feature_value(d->device, name.toUtf8().constData(), failure.slot());
-    if (failure) {
-        return d->readResult(name, failure);
-    }
     if (!current) {
-        return d->fail(DeviceFailure, name, QStringLiteral("the device holds no entry"));
+        return d->fail(DeviceFailure, name, tr("the device holds no entry"));
     }
     value = QString::fromUtf8(current); // at once: the text is the node's, and its next read overwrites it
     return d->availableEntries(name, entries);
@@ -502,36 +507,27 @@ long GenicamDevice::getParamEnum(const QString &name, QString &value, QList<QStr
 
 long GenicamDevice::getParamString(const QString &name, QString &value)
 {
-    if (const long status = d->readable(name, RuvoNodeString)) {
-        return status;
-    }
-    Failure failure;
-    const char *const text = arv_device_get_string_feature_value(d->device, name.toUtf8().constData(), failure.slot());
-    if (failure || !text) { // after a failed read there is a text all the same, without an end
-        return d->fail(DeviceFailure, name, failure.text());
-    }
-    value = QString::fromUtf8(text);
-    return Ok;
+    const char *text = nullptr; // after a failed read there is one all the same, without an end
+    const long status = d->read(name, RuvoNodeString, arv_device_get_string_feature_value, text);
+    value = status == Ok ? QString::fromUtf8(text) : QString();
+    return status;
 }
 
 long GenicamDevice::setParamInt(const QString &name, int value)
 {
-    if (const long status = d->writable(name, RuvoNodeInteger)) {
-        return status;
-    }
     gint64 minimum = 0;
     gint64 maximum = 0;
     gint64 increment = 0;
-    if (const long status = d->readLimits(name, minimum, maximum, increment)) {
+    long status = d->writable(name, RuvoNodeInteger);
+    status = status == Ok ? d->readLimits(name, minimum, maximum, increment) : status;
+    if (status != Ok) {
         return status;
     }
     // Only the range is checked for us. Unsigned, because the distance from the smallest minimum does not fit otherwise.
     if (increment > 1 && (quint64(value) - quint64(minimum)) % quint64(increment) != 0) {
-        return d->fail(InvalidValue, name, QStringLiteral("%1 is not a multiple of %2 above the minimum").arg(value).arg(increment));
+        return d->fail(InvalidValue, name, tr("%1 is not a multiple of %2 above the minimum").arg(value).arg(increment));
     }
-    Failure failure;
-    arv_device_set_integer_feature_value(d->device, name.toUtf8().constData(), value, failure.slot());
-    return d->writeResult(name, failure);
+    return d->write<gint64>(name, arv_device_set_integer_feature_value, value);
 }
 
 long GenicamDevice::setParamFloat(const QString &name, float value)
@@ -540,7 +536,7 @@ long GenicamDevice::setParamFloat(const QString &name, float value)
         return status;
     }
     if (!std::isfinite(value)) { // which is within every range
-        return d->fail(InvalidValue, name, QStringLiteral("not a number"));
+        return d->fail(InvalidValue, name, tr("not a number"));
     }
     double minimum = 0;
     double maximum = 0;
@@ -555,42 +551,28 @@ long GenicamDevice::setParamFloat(const QString &name, float value)
     } else if (value == toFloat(minimum)) {
         exact = minimum;
     }
-    Failure failure;
-    arv_device_set_float_feature_value(d->device, name.toUtf8().constData(), exact, failure.slot());
-    return d->writeResult(name, failure);
+    return d->write(name, arv_device_set_float_feature_value, exact);
 }
 
 long GenicamDevice::setParamBool(const QString &name, bool value)
 {
-    if (const long status = d->writable(name, RuvoNodeBoolean)) {
-        return status;
-    }
-    Failure failure;
-    arv_device_set_boolean_feature_value(d->device, name.toUtf8().constData(), value, failure.slot());
-    return d->writeResult(name, failure);
+    const long status = d->writable(name, RuvoNodeBoolean);
+    return status == Ok ? d->write<gboolean>(name, arv_device_set_boolean_feature_value, value) : status;
 }
 
 long GenicamDevice::setParamEnum(const QString &name, const QString &value)
 {
-    if (const long status = d->writable(name, RuvoNodeEnumeration)) {
-        return status;
-    }
-    Failure failure; // also for an entry that is not available now
-    arv_device_set_string_feature_value(d->device, name.toUtf8().constData(), value.toUtf8().constData(), failure.slot());
-    return d->writeResult(name, failure);
+    const long status = d->writable(name, RuvoNodeEnumeration); // an entry that is not available now is refused, too
+    return status == Ok ? d->write(name, arv_device_set_string_feature_value, value.toUtf8().constData()) : status;
 }
 
 long GenicamDevice::setParamString(const QString &name, const QString &value)
 {
-    if (const long status = d->writable(name, RuvoNodeString)) {
-        return status;
+    const long status = d->writable(name, RuvoNodeString);
+    if (status == Ok && value.contains(QChar(QChar::Null))) { // the device would take the text for ended there
+        return d->fail(InvalidValue, name, tr("the text contains a NUL"));
     }
-    if (value.contains(QChar(QChar::Null))) { // the device would take the text for ended there
-        return d->fail(InvalidValue, name, QStringLiteral("the text contains a NUL"));
-    }
-    Failure failure;
-    arv_device_set_string_feature_value(d->device, name.toUtf8().constData(), value.toUtf8().constData(), failure.slot());
-    return d->writeResult(name, failure);
+    return status == Ok ? d->write(name, arv_device_set_string_feature_value, value.toUtf8().constData()) : status;
 }
 
 long GenicamDevice::executeCMD(const QString &name)

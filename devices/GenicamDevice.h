@@ -2,6 +2,7 @@
 
 #include "VyViewerCore/Device.h"
 
+#include <QCoreApplication>
 #include <QStringList>
 
 #include <functional>
@@ -14,6 +15,7 @@
 /// now. Not thread-safe: one thread per device.
 class GenicamDevice final : public Device
 {
+    Q_DECLARE_TR_FUNCTIONS(GenicamDevice)
 public:
     enum Status : long {
         Ok = 0,

@@ -25,7 +25,7 @@ struct Reference : std::unique_ptr<T, decltype(&g_object_unref)>
 
 QString take(GError *error)
 {
-    const QString text = error ? QString::fromUtf8(error->message) : QStringLiteral("no reason given");
+    const QString text = error ? QString::fromUtf8(error->message) : QStringLiteral("?");
     g_clear_error(&error);
     return text;
 }
@@ -76,7 +76,7 @@ DevicePointer openDevice(const QString &address, QString *error)
     const Reference<GInetAddress> remote(g_inet_address_new_from_string(address.toUtf8().constData()));
     if (!remote || g_inet_address_get_family(remote.get()) != G_SOCKET_FAMILY_IPV4
         || g_inet_address_get_is_any(remote.get()) || g_inet_address_get_is_multicast(remote.get())) {
-        *error = QStringLiteral("it is not the IPv4 address of a camera, such as 192.168.0.10");
+        *error = NetworkLink::tr("it is not the IPv4 address of a camera, such as 192.168.0.10");
         return nullptr;
     }
     GError *failure = nullptr;
@@ -88,7 +88,7 @@ DevicePointer openDevice(const QString &address, QString *error)
     const bool silent = failure && failure->domain == ARV_DEVICE_ERROR && failure->code == ARV_DEVICE_ERROR_TIMEOUT;
     *error = take(failure);
     if (silent) {
-        *error = QStringLiteral("no camera answers");
+        *error = NetworkLink::tr("no camera answers");
     }
     return nullptr;
 }
@@ -147,7 +147,7 @@ void NetworkLink::Shared::run(const std::shared_ptr<Shared> &self, const QString
     }
     // On the heartbeat's thread. Releasing the device ends that thread, and we outlive the device.
     g_signal_connect(device.get(), "control-lost", G_CALLBACK(+[](ArvDevice *, gpointer shared) {
-        static_cast<Shared *>(shared)->lose(QStringLiteral("The camera is gone, was restarted, or obeys another program now."));
+        static_cast<Shared *>(shared)->lose(tr("The camera is gone, was restarted, or obeys another program now."));
     }), self.get());
     std::unique_lock<std::mutex> lock(mutex);
     while (state == Open) {
@@ -160,7 +160,7 @@ void NetworkLink::Shared::run(const std::shared_ptr<Shared> &self, const QString
         lock.unlock();
         const bool answered = serve(device.get(), *request);
         if (!answered) {
-            lose(QStringLiteral("The camera does not answer any more."));
+            lose(tr("The camera does not answer any more."));
         }
         lock.lock();
         request->done = true;
@@ -285,7 +285,7 @@ bool NetworkLink::request(quint64 address, QByteArray &bytes, bool isWrite, QStr
         });
         if (!inTime) {
             lock.unlock();
-            m_shared->lose(QStringLiteral("The camera does not answer any more."));
+            m_shared->lose(tr("The camera does not answer any more."));
             lock.lock();
         }
     }

@@ -3,6 +3,7 @@
 #include "RegisterPort.h"
 
 #include <QByteArray>
+#include <QCoreApplication>
 
 #include <functional>
 #include <memory>
@@ -15,6 +16,7 @@
 /// once. One thread may use a link.
 class NetworkLink final : public RegisterPort
 {
+    Q_DECLARE_TR_FUNCTIONS(NetworkLink)
 public:
     /// Takes control of the camera at an IPv4 address, unless somebody else has it. Waits up to some five seconds
     /// for it. Null and the reason when it cannot be opened.

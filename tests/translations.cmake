@@ -7,7 +7,7 @@ foreach(translation ${translations})
   file(WRITE ${WORK}/${name} "${before}")
   execute_process(
     COMMAND ${LUPDATE} -silent -locations none -no-obsolete
-      host parampage trigger triggerstop panel viewer -ts ${WORK}/${name}
+      host parampage trigger triggerstop panel devices viewer -ts ${WORK}/${name}
     WORKING_DIRECTORY ${SOURCE} COMMAND_ERROR_IS_FATAL ANY)
   file(READ ${WORK}/${name} after)
   if(NOT before STREQUAL after)

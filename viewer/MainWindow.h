@@ -1,56 +1,106 @@
 #pragma once
 
-#include <QMainWindow>
-#include <QVariantMap>
+#include "DevicePage.h"
 
-class Device;
+#include <QFutureWatcher>
+#include <QMainWindow>
+#include <QPointer>
+#include <QStyle>
+#include <QTimer>
+
+#include <functional>
+
+class NodeView;
 class QAction;
+class QDockWidget;
 class QLabel;
 class QMenu;
+class QPushButton;
+class QStackedWidget;
+class QTabWidget;
 class QTranslator;
-class VyTriggerConfigWdg;
+class TrafficView;
 
-/// A host in small: the panel, bound to one device, and what other parts of a host would do to the same device
-/// meanwhile. Everything goes through the interfaces that any host has.
+/// A host in small: the cameras, each open one with its panel in a tab of its own, and what goes on with the
+/// current one.
 class MainWindow : public QMainWindow
 {
     Q_OBJECT
 public:
-    /// The device is not owned and has to outlive the window.
-    explicit MainWindow(Device *device, const QString &language);
+    /// Language code; empty for the one chosen last, or the system's. With `remember` the window keeps its state
+    /// and the cameras in the settings of the application.
+    explicit MainWindow(const QString &language, bool remember);
     ~MainWindow() override;
 
-    /// Makes the window so tall that nothing of the panel is cut off.
+    /// Opens the camera in a new tab, or raises the tab that it has. Arguments as CameraConnection takes them.
+    void openDevice(const QString &address, const QString &description = {});
+
+    /// Null when no camera is open.
+    DevicePage *currentPage() const;
+
+    /// Makes the window so tall that nothing of the current panel is cut off.
     void fitToPanel();
 
 protected:
+    bool event(QEvent *event) override;
     void changeEvent(QEvent *event) override;
+    void closeEvent(QCloseEvent *event) override;
 
 private:
+    using Choice = void (DevicePage::*)(const QString &);
+    enum Need { Nothing, Page, Connection, Control }; // what an action makes sense with, each including the one before
+    struct Item
+    {
+        QAction *action;  // child
+        const char *text; // untranslated
+        Need need;
+    };
+    struct Dock
+    {
+        const char *name;
+        const char *title; // untranslated
+        QWidget *contents; // child of the dock
+        QDockWidget *dock; // child
+    };
+
+    void buildPlaceholder();
+    void buildDocks();
     void buildActions();
+    QAction *add(QAction *action, const char *name, const char *text, Need need, const QKeySequence &shortcut = {});
+    QMenu *addMenu(const char *name, const char *text);
+    /// The action that opens the menu.
+    QAction *newEntryMenu(QStyle::StandardPixmap icon, const char *node, const char *needed, Choice choose);
     void retranslate();
     void setLanguage(const QString &code);
-    void setAcquiring(bool start);
-    void loadUserSet(const QString &set);
-    void setTriggerMode(const QString &mode);
-    void fillMenu(QMenu *menu, const QString &node, void (MainWindow::*choose)(const QString &));
-    /// Tells the rest of the host what happened to the device, which is added to the payload.
-    void post(const QString &event, QVariantMap payload = {}) const;
-    /// Writes what the user is typing, which the coming change would otherwise discard.
+    void restore();
+    DevicePage *pageAt(int index) const;
     void commitPendingEdit() const;
-    void report(const QString &what, long status);
+    void closePage(DevicePage *page);
+    void askForAddress();
+    void findCameras();
+    void addFoundCameras();
+    void followPage(DevicePage *page);
+    /// Brings everything that shows the current page in line with it.
+    void followCurrentPage();
 
-    Device *const m_device; // not owned
-    bool m_acquiring = false;
-    VyTriggerConfigWdg *m_panel; // child
-    QTranslator *m_translator;   // child
-    QTranslator *m_qtTranslator; // child
-    QLabel *m_state;             // child
-    QMenu *m_cameraMenu;         // these: children
-    QMenu *m_userSetMenu;
-    QMenu *m_modeMenu;
+    const bool m_remember;
+    QString m_lastAddress;
+    QFutureWatcher<QVector<DeviceList::Camera>> m_search;
+    QTimer m_nodeTimer;                // many writes in one go, one refresh
+    QPointer<const DevicePage> m_followed;
+    QTranslator *m_translator;         // these: children
+    QTranslator *m_qtTranslator;
+    QStackedWidget *m_centre;
+    QTabWidget *m_tabs;
+    QWidget *m_placeholder;
+    QLabel *m_nothingOpen;
+    QPushButton *m_connectButton, *m_builtInButton;
+    DeviceList *m_list;
+    TrafficView *m_traffic;
+    NodeView *m_nodes;
+    QLabel *m_state;
     QMenu *m_languageMenu;
-    QAction *m_start;
-    QAction *m_stop;
-    QAction *m_quit;
+    QAction *m_find, *m_reconnect, *m_start, *m_stop, *m_mode;
+    QVector<Item> m_items;
+    Dock m_docks[3];
 };

@@ -21,6 +21,10 @@ Options Options::parse(const QStringList &arguments)
     const QCommandLineOption help({QStringLiteral("h"), QStringLiteral("help")}, QStringLiteral("Show this help."));
     const QCommandLineOption version({QStringLiteral("v"), QStringLiteral("version")},
                                      QStringLiteral("Show the version."));
+    const QCommandLineOption device(
+        QStringLiteral("device"),
+        QStringLiteral("Open the GigE Vision camera at this IPv4 address instead of the built-in one."),
+        QStringLiteral("ADDRESS"));
     const QCommandLineOption description(
         QStringLiteral("description"),
         QStringLiteral("Simulate the camera that this GenICam description (XML) describes instead of the built-in one."),
@@ -36,11 +40,19 @@ Options Options::parse(const QStringList &arguments)
         QStringLiteral("screenshot"),
         QStringLiteral("Render the window with the bound panel into a PNG file, without a display, and exit."),
         QStringLiteral("FILE.png"));
+    const QCommandLineOption apply(
+        QStringLiteral("apply"),
+        QStringLiteral("Write the settings in a file into the camera and exit: with status 0 when all were taken, else 1."),
+        QStringLiteral("FILE"));
+    const QCommandLineOption save(
+        QStringLiteral("save"),
+        QStringLiteral("Save the camera's settings into a file, after --set and --apply, and exit."),
+        QStringLiteral("FILE"));
 
     QCommandLineParser parser;
     parser.setApplicationDescription(
-        QStringLiteral("Reference host of the trigger configuration panel, bound to a simulated smart camera."));
-    parser.addOptions({help, version, description, set, language, screenshot});
+        QStringLiteral("Reference host of the trigger configuration panel, bound to smart cameras on the network or to a simulated one."));
+    parser.addOptions({help, version, device, description, set, apply, save, language, screenshot});
     if (!parser.parse(arguments)) {
         fail(parser.errorText());
     }
@@ -56,13 +68,25 @@ Options Options::parse(const QStringList &arguments)
         fail(QStringLiteral("Unexpected argument '%1'.").arg(parser.positionalArguments().constFirst()));
     }
 
+    for (const QCommandLineOption *option : {&device, &description, &apply, &save}) {
+        if (parser.isSet(*option) && parser.value(*option).isEmpty()) {
+            fail(QStringLiteral("--%1 needs a value.").arg(option->names().constFirst()));
+        }
+    }
+    if (parser.isSet(device) && parser.isSet(description)) {
+        fail(QStringLiteral("--device and --description exclude each other."));
+    }
+    if (parser.isSet(screenshot) && (parser.isSet(apply) || parser.isSet(save))) {
+        fail(QStringLiteral("--screenshot goes with neither --apply nor --save."));
+    }
+
     Options options;
+    options.device = parser.value(device);
     options.description = parser.value(description);
     options.language = parser.value(language);
     options.screenshot = parser.value(screenshot);
-    if (parser.isSet(description) && options.description.isEmpty()) {
-        fail(QStringLiteral("--description needs a file name."));
-    }
+    options.apply = parser.value(apply);
+    options.save = parser.value(save);
     if (parser.isSet(screenshot) && !options.screenshot.endsWith(QLatin1String(".png"), Qt::CaseInsensitive)) {
         fail(QStringLiteral("--screenshot needs a file name that ends in .png, not '%1'.").arg(options.screenshot));
     }

@@ -8,9 +8,12 @@
 /// What the command line asks of the viewer.
 struct Options
 {
+    QString device;      // IPv4 address; empty: the built-in camera
     QString description; // empty: the built-in camera's own
     QString language;    // empty: the system's
-    QString screenshot;  // empty: open a window
+    QString screenshot;  // these: files to write or read; without any of them a window opens
+    QString apply;
+    QString save;
     QVector<QPair<QString, QString>> settings; // node and value, in the order given
 
     /// Reads the command line (program name first). Where that settles the matter, as with --help or an unknown

@@ -19,8 +19,8 @@ public:
         long status;        // 0 for getNodeType and getNodeAccessMode
         Operation operation;
         QString node;
-        QString value;      // written or read; empty where a read failed
-        QString reason;     // of a failure
+        QString value;      // written or read; empty where a read failed; a long text is cut, and ends in "…"
+        QString reason;     // of a failure; cut likewise
     };
     using Report = std::function<void(const Call &)>;
     using Reason = std::function<QString()>;
@@ -29,7 +29,10 @@ public:
     TracedDevice(Device &device, Report report, Reason reason);
 
     static QString name(Operation operation);
+    static QString name(RuvoNodeType type);
     static bool isWrite(Operation operation) { return operation >= SetInt; }
+    /// As short as it can be and still be read as the same number.
+    static QString text(float value);
 
     long getParamInt(const QString &name, int &value, int &min, int &max, int &inc) override;
     long getParamFloat(const QString &name, float &value, float &min, float &max, float &inc) override;
@@ -46,6 +49,10 @@ public:
     RuvoNodeAccessMode getNodeAccessMode(const QString &name) override;
 
 private:
+    template <typename Answer, typename... Parameters, typename... Arguments>
+    Answer trace(Operation operation, Answer (Device::*method)(const QString &, Parameters...), const QString &name,
+                 Arguments &...arguments);
+
     Device &m_device;
     const Report m_report;
     const Reason m_reason;

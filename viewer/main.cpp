@@ -1,5 +1,7 @@
 #include "MainWindow.h"
 #include "Options.h"
+#include "SettingsApplier.h"
+#include "SettingsFile.h"
 
 #include "devices/GenicamDevice.h"
 
@@ -8,6 +10,7 @@
 #include <QLoggingCategory>
 #include <QSaveFile>
 
+#include <algorithm>
 #include <cstdio>
 
 namespace {
@@ -40,31 +43,101 @@ long setNode(Device &device, const QString &node, const QString &value)
     return device.setParamString(node, value);
 }
 
-/// The simulated camera, with what --set asks for written into it.
-std::unique_ptr<GenicamDevice> openCamera(const Options &options)
+/// What --set asks for; the first refusal ends it.
+QString setNodes(Device &device, const Options &options)
 {
-    QString error;
-    auto camera = GenicamDevice::openBuiltIn(options.description, &error);
-    if (!camera) {
-        Options::fail(error);
-    }
     for (const auto &setting : options.settings) {
-        if (setNode(*camera, setting.first, setting.second) != 0) {
-            Options::fail(QStringLiteral("The camera refuses %1=%2").arg(setting.first, setting.second));
+        if (setNode(device, setting.first, setting.second) != 0) {
+            return QStringLiteral("The camera refuses %1=%2").arg(setting.first, setting.second);
         }
     }
-    return camera;
+    return {};
 }
 
-bool render(MainWindow &window, QSaveFile &file)
+int applySettings(GenicamDevice &camera, const QString &fileName)
 {
-    window.show();
-    for (int i = 0; i < 2; ++i) { // once more, when the layout has followed
-        QCoreApplication::processEvents();
-        window.fitToPanel();
+    SettingsFile settings;
+    const QString error = settings.load(fileName);
+    if (!error.isEmpty()) {
+        return Options::complain(QStringLiteral("%1: %2").arg(fileName, error));
     }
-    QCoreApplication::processEvents();
-    return window.grab().save(&file, "PNG") && file.commit();
+    SettingsApplier applier(camera, settings, [&camera] { return camera.lastError(); });
+    while (applier.step()) {
+    }
+    const auto problems = applier.problems();
+    for (const SettingsApplier::Problem &problem : problems) {
+        Options::complain(problem.reason);
+    }
+    std::printf("%d of %d settings applied\n", applier.total() - int(problems.size()), applier.total());
+    return problems.isEmpty() ? 0 : 1;
+}
+
+int saveSettings(GenicamDevice &camera, const QString &fileName)
+{
+    const SettingsFile settings = SettingsFile::read(camera, camera.nodes());
+    for (const QString &node : settings.unread) {
+        Options::complain(QStringLiteral("%1 could not be read; nothing is saved").arg(node));
+    }
+    if (!settings.unread.isEmpty()) {
+        return 1;
+    }
+    if (settings.entries.isEmpty()) {
+        Options::complain(QStringLiteral("There is nothing to save: no setting can be changed now."));
+        return 1;
+    }
+    const QString error = settings.save(fileName);
+    if (!error.isEmpty()) {
+        return Options::complain(QStringLiteral("%1: %2").arg(fileName, error));
+    }
+    std::printf("%d settings saved\n", int(settings.entries.size()));
+    return 0;
+}
+
+/// Without a window, and so without a display.
+int work(const Options &options)
+{
+    QString error;
+    const auto camera = options.device.isEmpty() ? GenicamDevice::openBuiltIn(options.description, &error)
+                                                 : GenicamDevice::openNetwork(options.device, &error);
+    if (camera) {
+        error = setNodes(*camera, options);
+    }
+    if (!error.isEmpty()) {
+        return Options::complain(error);
+    }
+    int status = options.apply.isEmpty() ? 0 : applySettings(*camera, options.apply);
+    if (status != 2 && !options.save.isEmpty()) {
+        status = std::max(status, saveSettings(*camera, options.save));
+    }
+    return status;
+}
+
+/// Waits for the camera, and sets its nodes, before anything is shown: an error is one line and nothing else.
+QString prepare(const MainWindow &window, const Options &options)
+{
+    const DevicePage *const page = window.currentPage();
+    while (page->connection().state() == CameraConnection::Opening) {
+        QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
+    }
+    return page->device() ? setNodes(*page->device(), options) : page->connection().reason();
+}
+
+int render(MainWindow &window, const QString &name)
+{
+    QSaveFile file(name); // leaves nothing behind that is not complete
+    if (file.open(QIODevice::WriteOnly)) {
+        window.show();
+        for (int i = 0; i < 2; ++i) { // once more, when the layout has followed
+            QCoreApplication::processEvents();
+            window.fitToPanel();
+        }
+        QCoreApplication::processEvents();
+        // Flushed first: a full disk does not stop commit().
+        if (window.grab().save(&file, "PNG") && file.flush() && file.commit()) {
+            return 0;
+        }
+    }
+    return Options::complain(QStringLiteral("cannot write %1: %2").arg(name, file.errorString()));
 }
 
 } // namespace
@@ -75,9 +148,10 @@ int main(int argc, char *argv[])
     {
         const QCoreApplication core(argc, argv);
         options = Options::parse(QCoreApplication::arguments());
+        if (!options.apply.isEmpty() || !options.save.isEmpty()) {
+            return work(options);
+        }
     }
-    // Before anything is shown, so that an error is one line and nothing else.
-    const auto camera = openCamera(options);
 
     // Without a display Qt would abort; the offscreen platform takes over instead. What that platform grumbles
     // about concerns windows, of which there is none then.
@@ -89,9 +163,19 @@ int main(int argc, char *argv[])
     QLoggingCategory::setFilterRules(QStringLiteral("qt.qpa.*=false\ndefault.warning=false"));
     QApplication::setAttribute(Qt::AA_EnableHighDpiScaling);
     QApplication::setAttribute(Qt::AA_UseHighDpiPixmaps);
+    QCoreApplication::setOrganizationName(QStringLiteral("vytrigger"));
+    QCoreApplication::setApplicationName(QStringLiteral("vyviewer"));
     const QApplication application(argc, argv);
-    MainWindow window(camera.get(), options.language);
-    if (QGuiApplication::platformName() != QLatin1String("offscreen")) {
+    const bool isVisible = QGuiApplication::platformName() != QLatin1String("offscreen");
+    MainWindow window(options.language, isVisible); // a picture is the same whatever was done before
+    window.openDevice(options.device, options.description);
+    if (!isVisible || !options.settings.isEmpty()) {
+        const QString error = prepare(window, options);
+        if (!error.isEmpty()) {
+            return Options::complain(error);
+        }
+    }
+    if (isVisible) {
         QLoggingCategory::setFilterRules(QString());
         window.show();
         return QApplication::exec();
@@ -99,12 +183,9 @@ int main(int argc, char *argv[])
     const QString name = options.screenshot.isEmpty()
                              ? QDir::current().absoluteFilePath(QStringLiteral("trigger-panel.png"))
                              : options.screenshot;
-    QSaveFile file(name); // leaves nothing behind that is not complete
-    if (!file.open(QIODevice::WriteOnly) || !render(window, file)) {
-        return Options::complain(QStringLiteral("cannot write %1: %2").arg(name, file.errorString()));
-    }
-    if (options.screenshot.isEmpty()) {
+    const int status = render(window, name);
+    if (status == 0 && options.screenshot.isEmpty()) {
         std::printf("There is no display: the window was rendered into %s\n", qPrintable(name));
     }
-    return 0;
+    return status;
 }
