@@ -34,7 +34,15 @@ struct Failure
     explicit operator bool() const { return error; }
     bool isRule() const { return error && error->domain == ARV_GC_ERROR; }
     bool isAbsence() const { return isRule() && error->code == ARV_GC_ERROR_PROPERTY_NOT_DEFINED; }
-    QString text() const { return error ? QString::fromUtf8(error->message) : QString(); }
+    /// Without the names of the nodes, in brackets, that it came through: ours is said anyway.
+    QString text() const
+    {
+        QString text = error ? QString::fromUtf8(error->message) : QString();
+        while (text.startsWith(QLatin1Char('[')) && text.contains(QLatin1String("] "))) {
+            text.remove(0, text.indexOf(QLatin1String("] ")) + 2);
+        }
+        return text;
+    }
 
     GError *error = nullptr;
 };
@@ -201,9 +209,6 @@ struct GenicamDevice::Private
     /// because Aravis writes into locked and unavailable nodes without a word.
     long check(const QString &name, RuvoNodeType type, bool toWrite)
     {
-        if (isLost()) {
-            return fail(DeviceFailure, name, lostReason());
-        }
         ArvGcNode *const found = node(name);
         if (typeOf(found) != type) {
             return fail(NoSuchNode, name, tr("no such node of this type"));
@@ -212,6 +217,9 @@ struct GenicamDevice::Private
             return fail(NoAccess, name, tr("another program controls the camera"));
         }
         const RuvoNodeAccessMode mode = accessModeOf(found);
+        if (isLost()) { // maybe only now
+            return fail(DeviceFailure, name, lostReason());
+        }
         const bool allowed = mode == RuvoNodeReadWrite || mode == (toWrite ? RuvoNodeWriteOnly : RuvoNodeReadOnly);
         return allowed ? long(Ok) : fail(NoAccess, name, toWrite ? tr("cannot be written now")
                                                                  : tr("cannot be read now"));

@@ -1,6 +1,20 @@
 #pragma once
 
+#include <VyViewerCore/Device.h>
+
 #include <QProcess>
+
+/// The node by which the tests see what a camera holds, and its value; -1 when it cannot be read.
+const QString kDelay = QStringLiteral("InputTriggerDelay");
+
+inline float delayOf(Device *device)
+{
+    float value = -1;
+    float min = 0;
+    float max = 0;
+    float inc = 0;
+    return device->getParamFloat(kDelay, value, min, max, inc) == 0 ? value : -1;
+}
 
 /// A simulated camera on the network, in a process of its own that can be killed.
 class CameraProcess

@@ -17,7 +17,6 @@ using VyViewer::Singleton;
 namespace {
 
 const QString kAddress = QStringLiteral("127.0.0.1");
-const QString kDelay = QStringLiteral("InputTriggerDelay");
 const QString kMode = QStringLiteral("InputTriggerMode");
 const QString kSource = QStringLiteral("InputTriggerSource");
 
@@ -45,15 +44,6 @@ public:
     quint32 largest = 4096;
     QByteArray memory = QByteArray(4096, 'a');
 };
-
-float delayOf(Device *device)
-{
-    float value = -1;
-    float min = 0;
-    float max = 0;
-    float inc = 0;
-    return device->getParamFloat(kDelay, value, min, max, inc) == 0 ? value : -1;
-}
 
 /// Does something in the middle of what a device is asked.
 class InterruptedDevice final : public Device

@@ -1,5 +1,4 @@
 #include "viewer/NodeView.h"
-#include "viewer/RecordTable.h"
 #include "viewer/TrafficModel.h"
 #include "viewer/TrafficView.h"
 
@@ -8,15 +7,13 @@
 #include "devices/GenicamDevice.h"
 
 #include <QAbstractItemModelTester>
-#include <QAbstractProxyModel>
-#include <QCheckBox>
 #include <QClipboard>
 #include <QFileDialog>
-#include <QHeaderView>
 #include <QLineEdit>
 #include <QMessageBox>
 #include <QPushButton>
 #include <QScrollBar>
+#include <QTableView>
 #include <QTemporaryDir>
 #include <QtTest>
 
@@ -42,12 +39,7 @@ QStringList column(const QAbstractItemModel *model, int column)
     return texts;
 }
 
-QString lastNode(const TrafficModel &model)
-{
-    return model.rowCount() > 0 ? model.call(model.rowCount() - 1).node : QString();
-}
-
-RecordTable *tableOf(const QWidget &view) { return view.findChild<RecordTable *>(); }
+QTableView *tableOf(const QWidget &view) { return view.findChild<QTableView *>(); }
 
 void click(const QWidget &view, const QString &text)
 {
@@ -66,179 +58,107 @@ class TrafficTest : public QObject
 {
     Q_OBJECT
 private Q_SLOTS:
-    void cleanup() { QTest::qWait(20); } // the animation of a line edit outlives it until its next step
+    void cleanup() { QTest::qWait(50); } // the animation of a line edit outlives it until its next step
     void everyCallIsForwardedAndReported();
-    void longTextsAreCut();
-    void theLastCallsAreKept();
-    void theEndIsFollowed();
-    void filteredPausedCopiedAndSaved();
-    void csvFields_data();
-    void csvFields();
+    void theLastCallsAreKeptAndFollowed();
+    void filteredPausedAndCopied();
+    void savedAsCsv();
     void nodesAreReadWhenShown();
-    void nodesThatCannotBeRead();
 };
 
 void TrafficTest::everyCallIsForwardedAndReported()
 {
     using D = TracedDevice;
     ScriptedDevice scripted;
-    QVector<D::Call> reports;
-    int reasons = 0;
-    D device(scripted, [&](const D::Call &made) { reports.append(made); },
-             [&] { return "reason %1"_s.arg(++reasons); });
-    scripted.node("Text") = {RuvoNodeString, "a\nb"_s};
+    QStringList reports;
+    D device(scripted, [&](const D::Call &made) {
+        QVERIFY(made.nanoseconds > 0 && qAbs(made.time - QDateTime::currentMSecsSinceEpoch()) < 5000);
+        const QString sign = D::isWrite(made.operation) ? "<-"_s : "->"_s;
+        reports.append(D::name(made.operation) + " "_s + made.node + sign + made.value + made.reason);
+    }, [] { return " failed"_s; });
+    const QString text(300, QLatin1Char('x'));
+    scripted.node("Text") = {RuvoNodeString, text};
     scripted.node("Enum") = {RuvoNodeEnumeration, "One"_s, {"One"_s, "Two"_s}};
     scripted.node("Float") = {RuvoNodeFloat, 0.1F, {}, RuvoNodeReadWrite, -1, 1, 0.25};
     scripted.node("Bool") = {RuvoNodeBoolean, true};
     scripted.node("Int") = {RuvoNodeInteger, -5, {}, RuvoNodeNotAvailable, -10, 10, 5};
-    scripted.node("Odd").mode = RuvoNodeAccessMode(9);
-
-    int i = 0, iMin = 0, iMax = 0, iInc = 0;
-    float f = 0, fMin = 0, fMax = 0, fInc = 0;
-    bool b = false;
-    QString text, current;
+    int i[4] = {};
+    float f[4] = {};
+    bool isOn = false;
+    QString string, entry;
     QList<QString> entries;
-    const struct
-    {
-        D::Operation operation;
-        const char *name, *node, *call, *value;
-        std::function<long(const QString &)> run;
-    } rows[] = {
-        {D::GetInt, "getParamInt", "Int", "get Int", "-5",
-         [&](const QString &n) { return device.getParamInt(n, i, iMin, iMax, iInc); }},
-        {D::GetFloat, "getParamFloat", "Float", "get Float", "0.1",
-         [&](const QString &n) { return device.getParamFloat(n, f, fMin, fMax, fInc); }},
-        {D::GetBool, "getParamBool", "Bool", "get Bool", "true",
-         [&](const QString &n) { return device.getParamBool(n, b); }},
-        {D::GetEnum, "getParamEnum", "Enum", "get Enum", "One",
-         [&](const QString &n) { return device.getParamEnum(n, current, entries); }},
-        {D::GetString, "getParamString", "Text", "get Text", "a\nb",
-         [&](const QString &n) { return device.getParamString(n, text); }},
-        {D::SetInt, "setParamInt", "Int", "set Int=-3", "-3",
-         [&](const QString &n) { return device.setParamInt(n, -3); }},
-        {D::SetFloat, "setParamFloat", "Float", "set Float=16777215", "16777215",
-         [&](const QString &n) { return device.setParamFloat(n, 16777215.0F); }},
-        {D::SetBool, "setParamBool", "Bool", "set Bool=false", "false",
-         [&](const QString &n) { return device.setParamBool(n, false); }},
-        {D::SetEnum, "setParamEnum", "Enum", "set Enum=Two", "Two",
-         [&](const QString &n) { return device.setParamEnum(n, "Two"_s); }},
-        {D::SetString, "setParamString", "Text", "set Text=", "",
-         [&](const QString &n) { return device.setParamString(n, {}); }},
-        {D::Execute, "executeCMD", "Run", "run Run", "", [&](const QString &n) { return device.executeCMD(n); }},
+    const auto countSuccesses = [&] {
+        return QVector<long>{
+            device.getParamInt("Int"_s, i[0], i[1], i[2], i[3]),
+            device.getParamFloat("Float"_s, f[0], f[1], f[2], f[3]),
+            device.getParamBool("Bool"_s, isOn), device.getParamEnum("Enum"_s, entry, entries),
+            device.getParamString("Text"_s, string), device.getNodeType("Bool"_s) - RuvoNodeBoolean,
+            device.getNodeAccessMode("Int"_s) - RuvoNodeNotAvailable, device.setParamInt("Int"_s, -3),
+            device.setParamFloat("Float"_s, 16777215), device.setParamBool("Bool"_s, false),
+            device.setParamEnum("Enum"_s, "Two"_s), device.setParamString("Text"_s, "y"_s),
+            device.executeCMD("Run"_s)}.count(0);
     };
-    for (const bool fails : {false, true}) {
-        for (const auto &row : rows) {
-            const QString node = QString::fromLatin1(row.node);
-            scripted.node(node).failsReads = scripted.node(node).refusesWrites = fails;
-            scripted.calls.clear();
-            reports.clear();
-            const qint64 before = QDateTime::currentMSecsSinceEpoch();
-            const long status = row.run(node);
-            QVERIFY2((status != 0) == fails, row.name);
-            QCOMPARE(scripted.calls, QStringList(QString::fromLatin1(row.call)));
-            QCOMPARE(reports.size(), 1);
-            QCOMPARE(reports[0].status, status);
-            QCOMPARE(reports[0].operation, row.operation);
-            QCOMPARE(D::name(row.operation), QString::fromLatin1(row.name));
-            QCOMPARE(D::isWrite(row.operation), !QByteArray(row.name).startsWith("get"));
-            QCOMPARE(reports[0].node, node);
-            const bool hasValue = !fails || D::isWrite(row.operation);
-            QCOMPARE(reports[0].value, hasValue ? QString::fromLatin1(row.value) : QString());
-            QCOMPARE(reports[0].reason, fails ? "reason %1"_s.arg(reasons) : QString());
-            QVERIFY(reports[0].time >= before && reports[0].time <= QDateTime::currentMSecsSinceEpoch());
-            QVERIFY(reports[0].nanoseconds > 0);
-        }
-    }
-    QCOMPARE(reasons, int(std::size(rows))); // asked for failures only
-    QCOMPARE((QVector<int>{i, iMin, iMax, iInc}), (QVector<int>{-5, -10, 10, 5}));
-    QCOMPARE((QVector<float>{f, fMin, fMax, fInc}), (QVector<float>{0.1F, -1, 1, 0.25F}));
-    QCOMPARE((QStringList{current, text} + entries), (QStringList{"One"_s, "a\nb"_s, "One"_s, "Two"_s}));
-    QVERIFY(b);
+    QCOMPARE(countSuccesses(), 13);
+    QCOMPARE(scripted.calls.join(QLatin1Char('|')),
+             "get Int|get Float|get Bool|get Enum|get Text|type Bool|mode Int|set Int=-3|set Float=16777215|"
+             "set Bool=false|set Enum=Two|set Text=y|run Run"_s);
+    QCOMPARE(reports.join(QLatin1Char('|')).replace(text.left(256) + "…"_s, "CUT"_s),
+             "getParamInt Int->-5|getParamFloat Float->0.1|getParamBool Bool->true|getParamEnum Enum->One|"
+             "getParamString Text->CUT|getNodeType Bool->Boolean|getNodeAccessMode Int->NA|setParamInt Int<--3|"
+             "setParamFloat Float<-16777215|setParamBool Bool<-false|setParamEnum Enum<-Two|setParamString Text<-y|"
+             "executeCMD Run<-"_s);
+    QVERIFY(i[0] == -5 && i[1] == -10 && i[2] == 10 && i[3] == 5);
+    QVERIFY(f[0] == 0.1F && f[1] == -1 && f[2] == 1 && f[3] == 0.25F);
+    QCOMPARE((QStringList{entry, string} + entries), (QStringList{"One"_s, text, "One"_s, "Two"_s}));
 
+    for (const char *const node : {"Int", "Float", "Bool", "Enum", "Text", "Run"}) {
+        scripted.node(node).failsReads = scripted.node(node).refusesWrites = true;
+    }
     reports.clear();
-    QCOMPARE(device.getNodeType("Bool"_s), RuvoNodeBoolean);
-    QCOMPARE(device.getNodeAccessMode("Int"_s), RuvoNodeNotAvailable);
-    device.getNodeAccessMode("Odd"_s);
-    QCOMPARE(D::name(reports[0].operation) + reports[0].value, "getNodeTypeBoolean"_s);
-    QCOMPARE(D::name(reports[1].operation) + reports[1].value, "getNodeAccessModeNA"_s);
-    QCOMPARE(reports[2].value, "9"_s);
+    QCOMPARE(countSuccesses(), 2);
+    QCOMPARE(reports.filter(" failed"_s).size(), 11);
+    QCOMPARE(reports.filter("Int"_s).join(QLatin1Char('|')),
+             "getParamInt Int-> failed|getNodeAccessMode Int->NA|setParamInt Int<--3 failed"_s);
 }
 
-void TrafficTest::longTextsAreCut()
-{
-    ScriptedDevice scripted;
-    QStringList values;
-    TracedDevice device(scripted, [&](const TracedDevice::Call &made) { values.append(made.value); }, {});
-    device.setParamString("Text"_s, QString(256, QLatin1Char('x')));
-    device.setParamString("Text"_s, QString(300, QLatin1Char('x')));
-    QCOMPARE(values, (QStringList{QString(256, QLatin1Char('x')), QString(256, QLatin1Char('x')) + "…"_s}));
-    QCOMPARE(scripted.node("Text").value.toString().size(), 300);
-}
-
-void TrafficTest::theLastCallsAreKept()
-{
-    TrafficModel model;
-    int rows = 0; // as a view knows it
-    connect(&model, &QAbstractItemModel::rowsInserted, this, [&](const QModelIndex &, int first, int last) {
-        QCOMPARE(first, rows);
-        rows += last - first + 1;
-        QVERIFY(rows <= TrafficModel::kMaxCalls);
-    });
-    connect(&model, &QAbstractItemModel::rowsRemoved, this, [&](const QModelIndex &, int first, int last) {
-        QCOMPARE(first, 0);
-        rows -= last + 1;
-    });
-    int made = 0;
-    const auto run = [&](int count) {
-        for (const int end = made + count; made < end; ++made) {
-            model.append(call(TracedDevice::GetInt, QString::number(made)));
-        }
-        QCOMPARE(model.rowCount(), rows); // not shown at once
-        QTRY_COMPARE(lastNode(model), QString::number(made - 1));
-        QCOMPARE(model.rowCount(), rows);
-    };
-    run(TrafficModel::kMaxCalls - 10);
-    QCOMPARE(rows, TrafficModel::kMaxCalls - 10);
-    for (const int count : {25, 3000, 2 * TrafficModel::kMaxCalls + 1}) {
-        run(count);
-        QCOMPARE(rows, TrafficModel::kMaxCalls);
-        QCOMPARE(model.call(0).node, QString::number(made - TrafficModel::kMaxCalls));
-    }
-}
-
-void TrafficTest::theEndIsFollowed()
+void TrafficTest::theLastCallsAreKeptAndFollowed()
 {
     TrafficModel model;
     TrafficView view;
     view.setModel(&model);
     view.show();
+    QTableView *const table = tableOf(view);
+    QScrollBar *const bar = table->verticalScrollBar();
+    const auto top = [&] { return table->indexAt({0, 0}).siblingAtColumn(TrafficModel::Node).data().toString(); };
     int made = 0;
     const auto run = [&](int count) {
         for (const int end = made + count; made < end; ++made) {
             model.append(call(TracedDevice::GetInt, QString::number(made)));
         }
-        QTRY_COMPARE(lastNode(model), QString::number(made - 1));
+        QTRY_VERIFY(model.rowCount() > 0 && model.call(model.rowCount() - 1).node == QString::number(made - 1));
         QCoreApplication::processEvents();
+        QCOMPARE(model.rowCount(), qMin(made, TrafficModel::kMaxCalls));
+        QCOMPARE(table->model()->rowCount(), model.rowCount()); // by what it was told
+        QCOMPARE(model.call(0).node, QString::number(made - model.rowCount()));
     };
-    RecordTable *const table = tableOf(view);
-    const auto top = [&] { return table->indexAt({0, 0}).siblingAtColumn(TrafficModel::Node).data().toString(); };
-    QScrollBar *const bar = table->verticalScrollBar();
-    run(TrafficModel::kMaxCalls);
-    QCOMPARE(bar->value(), bar->maximum());
+    for (const int count : {TrafficModel::kMaxCalls - 10, 25, 3000, 2 * TrafficModel::kMaxCalls + 1}) {
+        run(count);
+        QCOMPARE(bar->value(), bar->maximum());
+    }
     table->setCurrentIndex(table->model()->index(10, 0)); // will be among those dropped
     bar->setValue(5000);
+    const QString looked = top();
     for (int i = 0; i < 2; ++i) { // what is looked at stays
         run(100);
-        QCOMPARE(top(), "5000"_s);
+        QCOMPARE(top(), looked);
     }
-    table->setCurrentIndex(table->model()->index(10, 0));
     bar->setValue(bar->maximum());
     run(100);
     QCOMPARE(bar->value(), bar->maximum());
     QVERIFY(top().toInt() > made - 100);
 }
 
-void TrafficTest::filteredPausedCopiedAndSaved()
+void TrafficTest::filteredPausedAndCopied()
 {
     TrafficModel model;
     TrafficView view;
@@ -248,106 +168,105 @@ void TrafficTest::filteredPausedCopiedAndSaved()
     const QAbstractItemModelTester shownTester(tableOf(view)->model());
     const auto nodes = [&] { return column(shown, TrafficModel::Node).join(QLatin1Char(' ')); };
     model.append(call(TracedDevice::GetInt, "Delay"_s, "12"_s));
-    model.append(call(TracedDevice::SetInt, "Delay2"_s, "x\ty"_s, 3, "Delay2: Locked out"_s));
+    model.append(call(TracedDevice::SetInt, "Delay2"_s, "x\ty"_s, 3, "Locked out"_s));
     click(view, "Pause"_s);
     model.append(call(TracedDevice::SetInt, "Unseen"_s));
     click(view, "Pause"_s);
     model.append(call(TracedDevice::Execute, "Start"_s));
     model.append(call(TracedDevice::GetBool, "Count"_s, {}, 2));
+    QCOMPARE(nodes(), QString()); // not at once
     QTRY_COMPARE(nodes(), "Delay Delay2 Start Count"_s);
 
-    auto *const filter = view.findChild<QLineEdit *>();
     const struct { const char *text, *all, *writes; } rows[] = {
         {"delay", "Delay Delay2", "Delay2"}, {"GETPARAM", "Delay Count", ""}, {"12", "Delay", ""},
-        {"locked", "Delay2", "Delay2"},
-        {"1.5", "", ""}, {"", "Delay Delay2 Start Count", "Delay2 Start"},
+        {"locked", "Delay2", "Delay2"}, {"1.5", "", ""}, {"", "Delay Delay2 Start Count", "Delay2 Start"},
     };
     for (const auto &row : rows) {
-        filter->setText(QString::fromLatin1(row.text));
+        view.findChild<QLineEdit *>()->setText(QString::fromLatin1(row.text));
         QCOMPARE(nodes(), QString::fromLatin1(row.all));
         click(view, "Writes only"_s);
         QCOMPARE(nodes(), QString::fromLatin1(row.writes));
         click(view, "Writes only"_s);
     }
-    QString marks; // a failure is red, a failed write on a ground of its own
-    for (int row = 0; row < shown->rowCount(); ++row) {
-        for (const int role : {Qt::ForegroundRole, Qt::BackgroundRole}) {
-            marks += QString::number(shown->index(row, 0).data(role).isValid());
-        }
-    }
-    QCOMPARE(marks, "00110010"_s);
+    const auto mark = [&](int row) { return shown->index(row, 0).data(Qt::BackgroundRole); };
+    QVERIFY(!mark(0).isValid() && !mark(2).isValid());
+    QVERIFY(mark(1).isValid() && mark(3).isValid() && mark(1) != mark(3));
 
     const QClipboard *const clipboard = QGuiApplication::clipboard();
     click(view, "Copy"_s);
     QCOMPARE(clipboard->text().count(QLatin1Char('\n')), 5);
+    view.show();
+    QVERIFY(QTest::qWaitForWindowActive(&view));
+    tableOf(view)->setFocus();
     tableOf(view)->selectRow(1);
     QTest::keyClick(tableOf(view), Qt::Key_C, Qt::ControlModifier);
     const QString time = shown->index(1, 0).data().toString();
     QCOMPARE(clipboard->text(), "Time\tOperation\tNode\tValue\tStatus\tDuration (µs)\n"_s + time
                  + "\tsetParamInt\tDelay2\tx y\t3 Locked out\t1.5\n"_s);
 
-    click(view, "Save…"_s);
-    auto *const dialog = view.findChild<QFileDialog *>();
-    const QTemporaryDir folder;
-    Q_EMIT dialog->fileSelected(folder.filePath("calls.csv"_s));
-    QFile file(folder.filePath("calls.csv"_s));
-    QVERIFY(file.open(QIODevice::ReadOnly));
-    QCOMPARE(file.readAll(), view.csv());
-    QString complaint;
-    QTimer::singleShot(0, this, [&] {
-        auto *const box = qobject_cast<QMessageBox *>(QApplication::activeModalWidget());
-        complaint = box->text();
-        box->accept();
-    });
-    Q_EMIT dialog->fileSelected(folder.filePath("nowhere/calls.csv"_s));
-    QVERIFY2(complaint.contains("nowhere"_s), qPrintable(complaint));
-
     model.append(call(TracedDevice::Execute, "Late"_s));
     click(view, "Clear"_s);
     QTest::qWait(200);
     QCOMPARE(nodes(), QString());
-    view.setModel(nullptr);
-    QCOMPARE(shown->columnCount(), 0);
 }
 
-void TrafficTest::csvFields_data()
+void TrafficTest::savedAsCsv()
 {
-    QTest::addColumn<QString>("value");
-    QTest::addColumn<QString>("field");
-    const auto row = [](const char *value, const char *field) {
-        QTest::newRow(value) << QString::fromUtf8(value) << QString::fromUtf8(field);
+    const struct { const char *value, *field; } rows[] = {
+        {"start", "\"start\""}, {"a,b", "\"a,b\""}, {"say \"go\"\r\nµ…", "\"say \"\"go\"\"\r\nµ…\""},
+        {"-5", "\"-5\""}, {"=1+1", "\"'=1+1\""}, {"-1+cmd", "\"'-1+cmd\""}, {"\t=1", "\"'\t=1\""},
     };
-    row("start", "\"start\"");
-    row("", "\"\"");
-    row("a,b", "\"a,b\"");
-    row("say \"go\"\r\nµ…", "\"say \"\"go\"\"\r\nµ…\"");
-    row("-5", "\"-5\"");
-    row("+1e3", "\"+1e3\"");
-    row("=1+1", "\"'=1+1\"");
-    row("-1+cmd", "\"'-1+cmd\"");
-    row("@x", "\"'@x\"");
-    row("\t=1", "\"'\t=1\"");
-}
-
-void TrafficTest::csvFields()
-{
-    QFETCH(QString, value);
-    QFETCH(QString, field);
     TrafficModel model;
     TrafficView view;
     view.setModel(&model);
-    model.append(call(TracedDevice::SetString, "Node"_s, value, -2, "=no"_s));
-    QTRY_COMPARE(model.rowCount(), 1);
+    QString expected = "Time,Operation,Node,Value,Status,Reason,Microseconds\r\n"_s;
     const QString time = QDateTime::fromMSecsSinceEpoch(0).toString("yyyy-MM-ddTHH:mm:ss.zzz"_s);
-    QCOMPARE(QString::fromUtf8(view.csv()), "Time,Operation,Node,Value,Status,Reason,Microseconds\r\n"_s + time
-                 + ",setParamString,\"Node\","_s + field + ",-2,\"'=no\",1.500\r\n"_s);
+    for (const auto &row : rows) {
+        model.append(call(TracedDevice::SetString, "Node"_s, QString::fromUtf8(row.value), -2, "=no"_s));
+        expected += time + ",setParamString,\"Node\","_s + QString::fromUtf8(row.field) + ",-2,\"'=no\",1.500\r\n"_s;
+    }
+    QTRY_COMPARE(model.rowCount(), int(std::size(rows)));
+    QCOMPARE(QString::fromUtf8(view.csv()), expected);
+
+    const QTemporaryDir folder;
+    QString name = "calls.csv"_s;
+    QString complaint;
+    QTimer user;
+    connect(&user, &QTimer::timeout, this, [&] {
+        auto *const dialog = qobject_cast<QDialog *>(QApplication::activeModalWidget());
+        if (auto *const files = qobject_cast<QFileDialog *>(dialog)) {
+            files->selectFile(folder.filePath(name));
+        } else if (auto *const box = qobject_cast<QMessageBox *>(dialog)) {
+            complaint = box->text();
+        }
+        if (dialog) {
+            dialog->accept();
+        }
+    });
+    user.start(10);
+    click(view, "Save…"_s);
+    QCOMPARE(complaint, QString());
+    name = "nowhere/calls.csv"_s;
+    click(view, "Save…"_s);
+    QFile file(folder.filePath("calls.csv"_s));
+    QVERIFY(file.open(QIODevice::ReadOnly));
+    QCOMPARE(file.readAll(), view.csv());
+    QVERIFY2(complaint.contains("nowhere"_s), qPrintable(complaint));
 }
 
 void TrafficTest::nodesAreReadWhenShown()
 {
-    const auto camera = GenicamDevice::openBuiltIn({}, nullptr);
+    QFile file(":/devices/smartcamera.xml"_s);
+    GenicamDevice::openBuiltIn({}, nullptr); // carries the description
+    QVERIFY(file.open(QIODevice::ReadOnly));
+    QTemporaryFile broken; // the serial number is where no memory is
+    QVERIFY(broken.open());
+    broken.write(file.readAll().replace("<Address>0x00d8</Address>", "<Address>0x20000</Address>")
+                     .replace("<Extension><PowerUp>EV-000001</PowerUp></Extension>", ""));
+    broken.close();
+    const auto camera = GenicamDevice::openBuiltIn(broken.fileName(), nullptr);
     NodeView view;
-    RecordTable *const table = tableOf(view);
+    QTableView *const table = tableOf(view);
     const QAbstractItemModel *const shown = table->model();
     const auto line = [&](const QString &node) {
         const int row = column(shown, 0).indexOf(node);
@@ -361,16 +280,19 @@ void TrafficTest::nodesAreReadWhenShown()
     QCOMPARE(shown->rowCount(), 0); // nothing read yet
     view.show();
     QCOMPARE(column(shown, 0), camera->nodes());
-    for (const QString &text : column(shown, 6)) {
-        QVERIFY(!text.isEmpty()); // each feature of ours explains itself
-    }
+    QVERIFY(!column(shown, 6).contains(QString())); // each feature of ours explains itself
     const QString delay = "|0 … 1000, step 0.1|ms|Time from the trigger to the reading, in milliseconds"_s;
     QCOMPARE(line("InputTriggerDelay"_s), "Float|read/write|0"_s + delay);
-    QVERIFY(line("InputTriggerMode"_s).startsWith("Enumeration|read/write|Normal|None, Normal, Hold||"_s));
-    QVERIFY(line("DeviceModelName"_s).startsWith("String|read-only|CodeReader 5||"_s));
-    QVERIFY(line("TriggerUdpPort"_s).startsWith("Integer|not available|||"_s));
-    QVERIFY(line("AcquisitionStop"_s).startsWith("Command|write-only|||"_s));
-    QVERIFY(line("TriggerCount"_s).startsWith("Integer|read-only|0|0 …||"_s));
+    const char *const lines[][2] = {
+        {"InputTriggerMode", "Enumeration|read/write|Normal|None, Normal, Hold||"},
+        {"DeviceModelName", "String|read-only|CodeReader 5||"}, {"TriggerUdpPort", "Integer|not available|||"},
+        {"AcquisitionStop", "Command|write-only|||"}, {"TriggerCount", "Integer|read-only|0|≥ 0||"},
+        {"DeviceSerialNumber", "String|read-only|– DeviceSerialNumber: "},
+    };
+    for (const auto &[node, start] : lines) {
+        const QString text = line(QString::fromLatin1(node));
+        QVERIFY2(text.startsWith(QString::fromUtf8(start)), qPrintable(text));
+    }
 
     // A refresh leaves alone what the user has arranged.
     table->sortByColumn(0, Qt::DescendingOrder);
@@ -379,52 +301,26 @@ void TrafficTest::nodesAreReadWhenShown()
     const QString selected = shown->index(3, 0).data().toString();
     QSignalSpy changes(shown, &QAbstractItemModel::dataChanged);
     QCOMPARE(camera->setParamFloat("InputTriggerDelay"_s, 2.5F), 0L);
-    QCOMPARE(camera->setParamEnum("InputTriggerSource"_s, "Udp"_s), 0L);
     view.hide();
     view.refresh();
     QCOMPARE(changes.size(), 0);
     view.show();
     QCOMPARE(line("InputTriggerDelay"_s), "Float|read/write|2.5"_s + delay);
-    QVERIFY(line("TriggerUdpPort"_s).startsWith("Integer|read/write|2007|1 … 65535||"_s));
     QCOMPARE(table->selectionModel()->selectedRows().value(0).data().toString(), selected);
     QCOMPARE(table->verticalScrollBar()->value(), 7);
     QCOMPARE(column(shown, 0).first(), "UserSetSelector"_s);
     changes.clear();
-    click(view, "Refresh"_s);
+    view.setDevice(camera.get());
     QCOMPARE(changes.size(), 0); // nothing has changed
     QCOMPARE(camera->executeCMD("AcquisitionStart"_s), 0L);
     click(view, "Refresh"_s);
     QCOMPARE(line("InputTriggerDelay"_s), "Float|read-only|2.5"_s + delay);
 
-    auto *const search = view.findChild<QLineEdit *>();
-    search->setText("udp, rs-232"_s); // among the entries of one node
+    view.findChild<QLineEdit *>()->setText("udp, rs-232"_s); // among the entries of one node
     QCOMPARE(column(shown, 0), QStringList("InputTriggerSource"_s));
-    search->clear();
+    view.findChild<QLineEdit *>()->clear();
     view.setDevice(nullptr);
     QCOMPARE(shown->rowCount(), 0);
-}
-
-void TrafficTest::nodesThatCannotBeRead()
-{
-    QFile file(":/devices/smartcamera.xml"_s);
-    GenicamDevice::openBuiltIn({}, nullptr); // carries the description
-    QVERIFY(file.open(QIODevice::ReadOnly));
-    QTemporaryFile broken;
-    QVERIFY(broken.open());
-    broken.write(file.readAll().replace("<Address>0x00d8</Address>", "<Address>0x20000</Address>")
-                     .replace("<Extension><PowerUp>EV-000001</PowerUp></Extension>", ""));
-    broken.close();
-    QString error;
-    const auto camera = GenicamDevice::openBuiltIn(broken.fileName(), &error);
-    QVERIFY2(camera, qPrintable(error));
-    NodeView view;
-    view.setDevice(camera.get());
-    view.show();
-    const QAbstractItemModel *const shown = tableOf(view)->model();
-    const QModelIndex value = shown->index(column(shown, 0).indexOf("DeviceSerialNumber"_s), 3);
-    QCOMPARE(value.data().toString(), "–"_s);
-    const QString tip = value.data(Qt::ToolTipRole).toString();
-    QVERIFY2(tip.contains("DeviceSerialNumber"_s) && tip.contains("no memory"_s), qPrintable(tip));
 }
 
 QTEST_MAIN(TrafficTest)

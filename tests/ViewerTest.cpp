@@ -59,6 +59,12 @@ private Q_SLOTS:
         row("unknown node", "--set Bogus=1 --screenshot a.png", "Bogus");
         row("refused value", "--set InputTriggerMode=Bogus --screenshot a.png", "Bogus");
         row("no truth", "--set InputKeyTrigger=maybe --screenshot a.png", "maybe");
+        row("no address", "--device camera --save a.json", "camera");
+        row("two cameras", "--device 127.0.0.1 --description broken.xml", "--description");
+        row("picture and settings", "--screenshot a.png --save a.json", "--screenshot");
+        row("missing settings", "--apply nowhere.json", "nowhere.json");
+        row("broken settings", "--apply broken.xml --save a.json", "broken.xml: line 1");
+        row("unwritable settings", "--save nowhere/a.json", "nowhere/a.json");
         row("no number", "--set InputTriggerDelay=soon --screenshot a.png", "soon");
     }
     void badCallsAreOneLineAndStatus2()
@@ -81,9 +87,38 @@ private Q_SLOTS:
     {
         const Result result = run({QStringLiteral("--help")});
         QCOMPARE(result.status, 0);
-        for (const char *option : {"--description", "--set", "--language", "--screenshot", "--version"}) {
+        for (const char *option : {"--device", "--description", "--set", "--apply", "--save", "--language", "--screenshot", "--version"}) {
             QVERIFY2(result.output.contains(QString::fromLatin1(option)), option);
         }
+    }
+
+    void settingsGoFromCameraToCamera()
+    {
+        const auto call = [this](const char *arguments) { return run(QString::fromLatin1(arguments).split(QLatin1Char(' '))); };
+        const auto contents = [this](const char *name) {
+            QFile file(m_folder.filePath(QString::fromLatin1(name)));
+            return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+        };
+        QCOMPARE(call("--set InputTriggerMode=Hold --set InputTriggerSource=Udp --set TriggerUdpPort=4711 "
+                      "--set TriggerStopConfig2Enable=true --save one.json").status, 0);
+        const Result applied = call("--apply one.json --save two.json");
+        QVERIFY2(applied.status == 0 && applied.errors.isEmpty(), qPrintable(applied.errors));
+        QVERIFY(contents("one.json").contains("4711"));
+        QCOMPARE(contents("two.json"), contents("one.json"));
+
+        // One value that the camera does not take, and all else in force.
+        QFile wrong(m_folder.filePath(QStringLiteral("wrong.json")));
+        QVERIFY(wrong.open(QIODevice::WriteOnly) && wrong.write(contents("one.json").replace("4711", "99999")) > 0);
+        wrong.close();
+        const Result refused = call("--apply wrong.json --save three.json");
+        QCOMPARE(refused.status, 1);
+        QVERIFY2(refused.errors.count(QLatin1Char('\n')) == 1 && refused.errors.contains(QStringLiteral("TriggerUdpPort = 99999")),
+                 qPrintable(refused.errors));
+        QVERIFY(contents("three.json").contains("Hold"));
+
+        const Result locked = call("--set AcquisitionStart= --save four.json");
+        QVERIFY(locked.status == 1 && locked.errors.count(QLatin1Char('\n')) == 1);
+        QVERIFY(contents("four.json").isEmpty());
     }
 
     void rendersTheBoundPanel()

@@ -5,213 +5,213 @@
     <name>DeviceList</name>
     <message>
         <source>Built-in camera</source>
-        <translation type="unfinished"></translation>
+        <translation>Eingebaute Kamera</translation>
     </message>
     <message>
         <source>%1 – %2</source>
-        <translation type="unfinished">%1 %2 – %2 {1 ?}</translation>
+        <translation>%1 – %2</translation>
     </message>
     <message>
         <source>connecting…</source>
-        <translation type="unfinished"></translation>
+        <translation>wird verbunden…</translation>
     </message>
     <message>
         <source>connected</source>
-        <translation type="unfinished"></translation>
+        <translation>verbunden</translation>
     </message>
     <message>
         <source>read-only</source>
-        <translation type="unfinished"></translation>
+        <translation>nur lesbar</translation>
     </message>
     <message>
         <source>acquiring</source>
-        <translation type="unfinished">Aufnahme läuft</translation>
+        <translation>Aufnahme läuft</translation>
     </message>
     <message>
         <source>lost</source>
-        <translation type="unfinished"></translation>
+        <translation>Verbindung verloren</translation>
     </message>
     <message>
         <source>not connected</source>
-        <translation type="unfinished"></translation>
+        <translation>nicht verbunden</translation>
     </message>
     <message>
         <source>&amp;Open</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Öffnen</translation>
     </message>
     <message>
         <source>&amp;Remove from the list</source>
-        <translation type="unfinished"></translation>
+        <translation>Aus der Liste &amp;entfernen</translation>
     </message>
 </context>
 <context>
     <name>DevicePage</name>
     <message>
         <source>Start acquisition</source>
-        <translation type="unfinished">Aufnahme starten</translation>
+        <translation>Aufnahme starten</translation>
     </message>
     <message>
         <source>Stop acquisition</source>
-        <translation type="unfinished">Aufnahme stoppen</translation>
+        <translation>Aufnahme stoppen</translation>
     </message>
     <message>
         <source>Load user set</source>
-        <translation type="unfinished"></translation>
+        <translation>User-Set laden</translation>
     </message>
     <message>
         <source>Load user set %1?</source>
-        <translation type="unfinished">User-Set %1? laden</translation>
+        <translation>User-Set %1 laden?</translation>
     </message>
     <message>
         <source>Settings of this camera were changed and are in no user set. Loading replaces them.</source>
-        <translation type="unfinished"></translation>
+        <translation>Einstellungen dieser Kamera wurden geändert und sind in keinem User-Set gespeichert. Beim Laden werden sie ersetzt.</translation>
     </message>
     <message>
         <source>Load</source>
-        <translation type="unfinished"></translation>
+        <translation>Laden</translation>
     </message>
     <message>
         <source>Load user set %1</source>
-        <translation type="unfinished">User-Set %1 laden</translation>
+        <translation>User-Set %1 laden</translation>
     </message>
     <message>
         <source>Save to user set %1</source>
-        <translation type="unfinished"></translation>
+        <translation>In User-Set %1 speichern</translation>
     </message>
     <message>
         <source>Trigger mode %1</source>
-        <translation type="unfinished">Trigger-Modus %1</translation>
+        <translation>Trigger-Modus %1</translation>
     </message>
     <message>
         <source>Save settings</source>
-        <translation type="unfinished"></translation>
+        <translation>Einstellungen speichern</translation>
     </message>
     <message>
         <source>Nothing was saved. These settings could not be read: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Es wurde nichts gespeichert. Diese Einstellungen konnten nicht gelesen werden: %1</translation>
     </message>
     <message>
         <source>While the camera is acquiring, none of its settings can be saved. Stop the acquisition first.</source>
-        <translation type="unfinished"></translation>
+        <translation>Während der Aufnahme lassen sich keine Einstellungen der Kamera speichern. Zuerst die Aufnahme stoppen.</translation>
     </message>
     <message>
         <source>This camera has no trigger setting that can be saved now.</source>
-        <translation type="unfinished"></translation>
+        <translation>Diese Kamera hat keine Trigger-Einstellung, die sich zurzeit speichern lässt.</translation>
     </message>
     <message>
         <source>Settings (*.json)</source>
-        <translation type="unfinished"></translation>
+        <translation>Einstellungen (*.json)</translation>
     </message>
     <message>
         <source>Settings saved in %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Einstellungen in %1 gespeichert</translation>
     </message>
     <message>
         <source>Apply settings</source>
-        <translation type="unfinished"></translation>
+        <translation>Einstellungen anwenden</translation>
     </message>
     <message>
         <source>Applying the settings…</source>
-        <translation type="unfinished"></translation>
+        <translation>Einstellungen werden angewendet…</translation>
     </message>
     <message>
         <source>Cancel</source>
-        <translation type="unfinished"></translation>
+        <translation>Abbrechen</translation>
     </message>
     <message>
         <source>1 setting applied</source>
-        <translation type="unfinished"></translation>
+        <translation>1 Einstellung angewendet</translation>
     </message>
     <message>
         <source>%1 settings applied</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 Einstellungen angewendet</translation>
     </message>
     <message>
         <source>%1 of %2 settings were applied to %3. These were not:</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 von %2 Einstellungen wurden auf %3 angewendet. Diese nicht:</translation>
     </message>
     <message>
         <source>%1 of %2 settings applied</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 von %2 Einstellungen angewendet</translation>
     </message>
     <message>
         <source>Not connected to %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Nicht mit %1 verbunden.</translation>
     </message>
     <message>
         <source>Connecting to %1…</source>
-        <translation type="unfinished"></translation>
+        <translation>Verbindung zu %1 wird hergestellt…</translation>
     </message>
     <message>
         <source>There is no connection to %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Es besteht keine Verbindung zu %1.</translation>
     </message>
     <message>
         <source>The connection to %1 was lost.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Verbindung zu %1 ging verloren.</translation>
     </message>
     <message>
         <source>Another program controls this camera: settings can be read, not changed.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ein anderes Programm steuert diese Kamera: Einstellungen lassen sich lesen, aber nicht ändern.</translation>
     </message>
     <message>
         <source>&amp;Reconnect</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Neu verbinden</translation>
     </message>
     <message>
         <source>%1 was not executed: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 wurde nicht ausgeführt: %2</translation>
     </message>
     <message>
         <source>%1 was not set to %2: %3</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 wurde nicht auf %2 gesetzt: %3</translation>
     </message>
     <message>
         <source>%1: done</source>
-        <translation type="unfinished">%1: erledigt</translation>
+        <translation>%1: erledigt</translation>
     </message>
 </context>
 <context>
     <name>GenicamDevice</name>
     <message>
         <source>no such node of this type</source>
-        <translation type="unfinished"></translation>
+        <translation>kein Knoten dieses Namens und Typs</translation>
     </message>
     <message>
         <source>another program controls the camera</source>
-        <translation type="unfinished"></translation>
+        <translation>ein anderes Programm steuert die Kamera</translation>
     </message>
     <message>
         <source>cannot be written now</source>
-        <translation type="unfinished"></translation>
+        <translation>kann zurzeit nicht geschrieben werden</translation>
     </message>
     <message>
         <source>cannot be read now</source>
-        <translation type="unfinished"></translation>
+        <translation>kann zurzeit nicht gelesen werden</translation>
     </message>
     <message>
         <source>it does not describe itself</source>
-        <translation type="unfinished"></translation>
+        <translation>das Gerät liefert keine Beschreibung von sich</translation>
     </message>
     <message>
         <source>the device holds no number</source>
-        <translation type="unfinished"></translation>
+        <translation>im Gerät steht keine Zahl</translation>
     </message>
     <message>
         <source>the device holds no entry</source>
-        <translation type="unfinished"></translation>
+        <translation>im Gerät steht keiner der Einträge</translation>
     </message>
     <message>
         <source>%1 is not a multiple of %2 above the minimum</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 liegt nicht um ein Vielfaches von %2 über dem Minimum</translation>
     </message>
     <message>
         <source>not a number</source>
-        <translation type="unfinished"></translation>
+        <translation>keine Zahl</translation>
     </message>
     <message>
         <source>the text contains a NUL</source>
-        <translation type="unfinished"></translation>
+        <translation>der Text enthält ein NUL-Zeichen</translation>
     </message>
 </context>
 <context>
@@ -258,208 +258,196 @@
     </message>
     <message>
         <source>Devices</source>
-        <translation type="unfinished"></translation>
+        <translation>Geräte</translation>
     </message>
     <message>
         <source>Traffic</source>
-        <translation type="unfinished"></translation>
+        <translation>Datenverkehr</translation>
     </message>
     <message>
         <source>Nodes</source>
-        <translation type="unfinished"></translation>
+        <translation>Knoten</translation>
     </message>
     <message>
         <source>%1 – %2</source>
-        <translation type="unfinished">%1 %2 – %2 {1 ?}</translation>
+        <translation>%1 – %2</translation>
     </message>
     <message>
         <source>Not available now</source>
-        <translation type="unfinished"></translation>
+        <translation>Zurzeit nicht verfügbar</translation>
     </message>
     <message>
         <source>&amp;Device</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Gerät</translation>
     </message>
     <message>
         <source>&amp;Connect…</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Verbinden…</translation>
     </message>
     <message>
         <source>&amp;Find cameras</source>
-        <translation type="unfinished"></translation>
+        <translation>Kameras s&amp;uchen</translation>
     </message>
     <message>
         <source>&amp;Reconnect</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Neu verbinden</translation>
     </message>
     <message>
         <source>C&amp;lose</source>
-        <translation type="unfinished"></translation>
+        <translation>S&amp;chließen</translation>
     </message>
     <message>
         <source>&amp;Save settings…</source>
-        <translation type="unfinished"></translation>
+        <translation>Einstellungen &amp;speichern…</translation>
     </message>
     <message>
         <source>&amp;Apply settings…</source>
-        <translation type="unfinished"></translation>
+        <translation>Einstellungen &amp;anwenden…</translation>
     </message>
     <message>
         <source>Save to &amp;user set</source>
-        <translation type="unfinished"></translation>
+        <translation>In &amp;User-Set speichern</translation>
     </message>
     <message>
         <source>&amp;View</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Ansicht</translation>
     </message>
     <message>
         <source>&amp;Refresh nodes</source>
-        <translation type="unfinished"></translation>
+        <translation>Knoten &amp;aktualisieren</translation>
     </message>
     <message>
         <source>&amp;Help</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Hilfe</translation>
     </message>
     <message>
         <source>&amp;About Trigger Viewer</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Über Trigger-Viewer</translation>
     </message>
     <message>
         <source>About Trigger Viewer</source>
-        <translation type="unfinished"></translation>
+        <translation>Über Trigger-Viewer</translation>
     </message>
     <message>
         <source>&lt;h3&gt;Trigger Viewer %1&lt;/h3&gt;&lt;p&gt;Shows and changes the trigger settings of smart cameras.&lt;/p&gt;</source>
-        <translation type="unfinished"></translation>
+        <translation>&lt;h3&gt;Trigger-Viewer %1&lt;/h3&gt;&lt;p&gt;Zeigt und ändert die Trigger-Einstellungen von Smart-Kameras.&lt;/p&gt;</translation>
     </message>
     <message>
         <source>No device is open.</source>
-        <translation type="unfinished"></translation>
+        <translation>Es ist kein Gerät geöffnet.</translation>
     </message>
     <message>
         <source>Connect…</source>
-        <translation type="unfinished"></translation>
+        <translation>Verbinden…</translation>
     </message>
     <message>
         <source>Open the built-in camera</source>
-        <translation type="unfinished"></translation>
+        <translation>Eingebaute Kamera öffnen</translation>
     </message>
     <message>
         <source>Connect</source>
-        <translation type="unfinished"></translation>
+        <translation>Verbinden</translation>
     </message>
     <message>
         <source>&amp;IPv4 address of the camera:</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;IPv4-Adresse der Kamera:</translation>
     </message>
     <message>
         <source>Searching for cameras…</source>
-        <translation type="unfinished"></translation>
+        <translation>Kameras werden gesucht…</translation>
     </message>
     <message>
         <source>No camera answered</source>
-        <translation type="unfinished"></translation>
+        <translation>Keine Kamera hat geantwortet</translation>
     </message>
     <message>
         <source>1 camera found</source>
-        <translation type="unfinished"></translation>
+        <translation>1 Kamera gefunden</translation>
     </message>
     <message>
         <source>%1 cameras found</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 Kameras gefunden</translation>
     </message>
 </context>
 <context>
     <name>NetworkLink</name>
     <message>
         <source>it is not the IPv4 address of a camera, such as 192.168.0.10</source>
-        <translation type="unfinished"></translation>
+        <translation>das ist keine IPv4-Adresse einer Kamera wie etwa 192.168.0.10</translation>
     </message>
     <message>
         <source>no camera answers</source>
-        <translation type="unfinished"></translation>
+        <translation>es antwortet keine Kamera</translation>
     </message>
     <message>
         <source>The camera is gone, was restarted, or obeys another program now.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Kamera ist nicht mehr da, wurde neu gestartet oder wird jetzt von einem anderen Programm gesteuert.</translation>
     </message>
     <message>
         <source>The camera does not answer any more.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Kamera antwortet nicht mehr.</translation>
     </message>
 </context>
 <context>
     <name>NodeModel</name>
     <message>
         <source>not implemented</source>
-        <translation type="unfinished"></translation>
+        <translation>nicht implementiert</translation>
     </message>
     <message>
         <source>not available</source>
-        <translation type="unfinished"></translation>
+        <translation>nicht verfügbar</translation>
     </message>
     <message>
         <source>write-only</source>
-        <translation type="unfinished"></translation>
+        <translation>nur schreibbar</translation>
     </message>
     <message>
         <source>read-only</source>
-        <translation type="unfinished"></translation>
+        <translation>nur lesbar</translation>
     </message>
     <message>
         <source>read/write</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>%1 … %2</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>%1, step %2</source>
-        <translation type="unfinished"></translation>
+        <translation>les-/schreibbar</translation>
     </message>
     <message>
         <source>Node</source>
-        <translation type="unfinished"></translation>
+        <translation>Knoten</translation>
     </message>
     <message>
         <source>Type</source>
-        <translation type="unfinished"></translation>
+        <translation>Typ</translation>
     </message>
     <message>
         <source>Access</source>
-        <translation type="unfinished"></translation>
+        <translation>Zugriff</translation>
     </message>
     <message>
         <source>Value</source>
-        <translation type="unfinished"></translation>
+        <translation>Wert</translation>
     </message>
     <message>
         <source>Range</source>
-        <translation type="unfinished"></translation>
+        <translation>Bereich</translation>
     </message>
     <message>
         <source>Unit</source>
-        <translation type="unfinished"></translation>
+        <translation>Einheit</translation>
     </message>
     <message>
         <source>Description</source>
-        <translation type="unfinished"></translation>
+        <translation>Beschreibung</translation>
+    </message>
+    <message>
+        <source>step %1</source>
+        <translation>Schritt %1</translation>
     </message>
 </context>
 <context>
     <name>NodeView</name>
     <message>
-        <source>Search</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
         <source>Refresh</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Reads every node again</source>
-        <translation type="unfinished"></translation>
+        <translation>Aktualisieren</translation>
     </message>
 </context>
 <context>
@@ -686,187 +674,162 @@
     </message>
 </context>
 <context>
+    <name>RecordTable</name>
+    <message>
+        <source>Filter</source>
+        <translation>Filter</translation>
+    </message>
+</context>
+<context>
     <name>SettingsApplier</name>
     <message>
         <source>not reached</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>this node of the camera is of another type than %1</source>
-        <translation type="unfinished"></translation>
+        <translation>nicht mehr bearbeitet</translation>
     </message>
     <message>
         <source>refused</source>
-        <translation type="unfinished"></translation>
+        <translation>abgelehnt</translation>
     </message>
     <message>
         <source>cannot be read back</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>the camera holds %1 instead of %2</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>cannot be written while the camera is acquiring</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>can only be read now</source>
-        <translation type="unfinished"></translation>
+        <translation>kann nicht zurückgelesen werden</translation>
     </message>
     <message>
         <source>this camera has no such node</source>
-        <translation type="unfinished"></translation>
+        <translation>diese Kamera hat keinen solchen Knoten</translation>
     </message>
     <message>
         <source>cannot be written in the present mode</source>
-        <translation type="unfinished"></translation>
+        <translation>kann im aktuellen Modus nicht geschrieben werden</translation>
     </message>
     <message>
         <source>the camera no longer answers</source>
-        <translation type="unfinished"></translation>
+        <translation>die Kamera antwortet nicht mehr</translation>
+    </message>
+    <message>
+        <source>this node of the camera is of another type</source>
+        <translation>dieser Knoten der Kamera hat einen anderen Typ</translation>
+    </message>
+    <message>
+        <source>can only be read now (is the camera acquiring?)</source>
+        <translation>ist jetzt nur lesbar (läuft die Aufnahme?)</translation>
+    </message>
+    <message>
+        <source>the camera holds %1 instead</source>
+        <translation>die Kamera hat stattdessen %1</translation>
     </message>
 </context>
 <context>
     <name>SettingsFile</name>
     <message>
-        <source>the key %1 is there twice</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
         <source>the key %1 is not known</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>the key &quot;%1&quot; is missing</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>the file is no text in UTF-8</source>
-        <translation type="unfinished"></translation>
+        <translation>der Schlüssel %1 ist unbekannt</translation>
     </message>
     <message>
         <source>line %1: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Zeile %1: %2</translation>
     </message>
     <message>
         <source>this is no file of trigger settings</source>
-        <translation type="unfinished"></translation>
+        <translation>das ist keine Datei mit Trigger-Einstellungen</translation>
     </message>
     <message>
         <source>the version is %1, and only %2 is known</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>this has to be an object of texts</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>%1 is no name of a node</source>
-        <translation type="unfinished"></translation>
+        <translation>die Version ist %1, bekannt ist nur %2</translation>
     </message>
     <message>
         <source>this node is there twice</source>
-        <translation type="unfinished"></translation>
+        <translation>dieser Knoten ist doppelt vorhanden</translation>
     </message>
     <message>
         <source>the type %1 is not known</source>
-        <translation type="unfinished"></translation>
+        <translation>der Typ %1 ist unbekannt</translation>
     </message>
     <message>
         <source>the value %1 is none of type %2</source>
-        <translation type="unfinished"></translation>
+        <translation>der Wert %1 ist keiner vom Typ %2</translation>
     </message>
     <message>
         <source>&quot;nodes&quot; is no list</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>entry %1</source>
-        <translation type="unfinished"></translation>
+        <translation>&quot;nodes&quot; ist keine Liste</translation>
     </message>
     <message>
         <source>this is no ordinary file</source>
-        <translation type="unfinished"></translation>
+        <translation>das ist keine gewöhnliche Datei</translation>
     </message>
     <message>
         <source>the file is too large</source>
-        <translation type="unfinished"></translation>
+        <translation>die Datei ist zu groß</translation>
+    </message>
+    <message>
+        <source>the name is missing</source>
+        <translation>der Name fehlt</translation>
+    </message>
+    <message>
+        <source>entry %1, %2: %3</source>
+        <translation>Eintrag %1, %2: %3</translation>
     </message>
 </context>
 <context>
     <name>TrafficModel</name>
     <message>
         <source>Time</source>
-        <translation type="unfinished"></translation>
+        <translation>Zeit</translation>
     </message>
     <message>
         <source>Operation</source>
-        <translation type="unfinished"></translation>
+        <translation>Operation</translation>
     </message>
     <message>
         <source>Node</source>
-        <translation type="unfinished"></translation>
+        <translation>Knoten</translation>
     </message>
     <message>
         <source>Value</source>
-        <translation type="unfinished"></translation>
+        <translation>Wert</translation>
     </message>
     <message>
         <source>Status</source>
-        <translation type="unfinished"></translation>
+        <translation>Status</translation>
     </message>
     <message>
         <source>Duration (µs)</source>
-        <translation type="unfinished"></translation>
+        <translation>Dauer (µs)</translation>
     </message>
 </context>
 <context>
     <name>TrafficView</name>
     <message>
         <source>Save traffic</source>
-        <translation type="unfinished"></translation>
+        <translation>Datenverkehr speichern</translation>
     </message>
     <message>
         <source>CSV files (*.csv)</source>
-        <translation type="unfinished"></translation>
+        <translation>CSV-Dateien (*.csv)</translation>
     </message>
     <message>
         <source>%1 cannot be written: %2</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Filter</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 kann nicht geschrieben werden: %2</translation>
     </message>
     <message>
         <source>Writes only</source>
-        <translation type="unfinished"></translation>
+        <translation>Nur Schreibzugriffe</translation>
     </message>
     <message>
         <source>Pause</source>
-        <translation type="unfinished"></translation>
+        <translation>Pause</translation>
     </message>
     <message>
         <source>Clear</source>
-        <translation type="unfinished"></translation>
+        <translation>Leeren</translation>
     </message>
     <message>
         <source>Copy</source>
-        <translation type="unfinished"></translation>
+        <translation>Kopieren</translation>
     </message>
     <message>
         <source>Save…</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Copies the selected calls, or all that are shown</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Saves the calls that are shown as a CSV file</source>
-        <translation type="unfinished"></translation>
+        <translation>Speichern…</translation>
     </message>
 </context>
 <context>

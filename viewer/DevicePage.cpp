@@ -356,6 +356,7 @@ void DevicePage::followConnection()
         m_device = std::make_unique<TracedDevice>(
             *bare, [this](const TracedDevice::Call &call) { followCall(call); }, [this] { return lastError(); });
         m_unsaved = false;
+        m_values.clear();
         readText("DeviceVendorName", m_camera.vendor);
         readText("DeviceModelName", m_camera.model);
         readText("DeviceSerialNumber", m_camera.serial);
@@ -374,6 +375,12 @@ void DevicePage::followConnection()
 void DevicePage::followCall(const TracedDevice::Call &call)
 {
     m_traffic->append(call);
+    // An editor writes what it shows whenever it loses the focus: only another value is a change.
+    const bool isValue = call.operation != TracedDevice::GetType && call.operation != TracedDevice::GetAccessMode;
+    const bool isOther = isValue && call.status == 0 && m_values.value(call.node) != call.value;
+    if (isOther) {
+        m_values.insert(call.node, call.value);
+    }
     if (!TracedDevice::isWrite(call.operation)) {
         return;
     }
@@ -383,7 +390,7 @@ void DevicePage::followCall(const TracedDevice::Call &call)
                                                                  : call.value;
         Q_EMIT said(isCommand ? tr("%1 was not executed: %2").arg(call.node, call.reason)
                               : tr("%1 was not set to %2: %3").arg(call.node, value, call.reason));
-    } else if (!isCommand && call.node != QLatin1String(kUserSetNode)) {
+    } else if (isOther && !isCommand && call.node != QLatin1String(kUserSetNode)) {
         m_unsaved = true;
     }
     Q_EMIT written();

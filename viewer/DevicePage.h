@@ -5,6 +5,7 @@
 
 #include "devices/CameraConnection.h"
 
+#include <QHash>
 #include <QVariantMap>
 #include <QWidget>
 
@@ -89,5 +90,6 @@ private:
     QProgressBar *m_busy;
     QPushButton *m_reconnect[2]; // of the strip and of the notice
     bool m_acquiring = false;
+    QHash<QString, QString> m_values; // of the nodes, as they were last read or written
     bool m_unsaved = false; // settings were written that no user set holds
 };

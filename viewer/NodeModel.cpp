@@ -1,6 +1,5 @@
 #include "NodeModel.h"
 
-#include "RecordTable.h"
 #include "TracedDevice.h"
 
 #include "devices/GenicamDevice.h"
@@ -9,9 +8,6 @@
 
 namespace {
 
-QString text(int value) { return QString::number(value); }
-QString text(float value) { return TracedDevice::text(value); }
-
 QString accessText(RuvoNodeAccessMode mode)
 {
     const QString names[] = {NodeModel::tr("not implemented"), NodeModel::tr("not available"),
@@ -19,92 +15,74 @@ QString accessText(RuvoNodeAccessMode mode)
     return names[qBound(int(RuvoNodeNotImplemented), int(mode), int(RuvoNodeReadWrite))];
 }
 
-/// Reads a node whose value can be read now. Returns the status.
+/// Without the limits that only the type of the number sets; a maximum of -1 stands for none.
 template <typename Number>
-long readNumber(GenicamDevice *device, long (Device::*read)(const QString &, Number &, Number &, Number &, Number &),
-                const QString &node, QString &value, QString &range)
+QString rangeText(Number min, Number max, Number increment)
 {
-    using Limits = std::numeric_limits<Number>;
-    Number number = 0;
-    Number min = 0;
-    Number max = 0;
-    Number increment = 0;
-    const long status = (device->*read)(node, number, min, max, increment);
-    value = text(number);
-    // Without the limits that only the type of the number sets.
-    const bool isOpen = max == Limits::max() || (max == -1 && min > max);
-    const QString lower = min == Limits::lowest() ? QString() : text(min);
-    range = NodeModel::tr("%1 … %2").arg(lower, isOpen ? QString() : text(max)).trimmed();
-    if (increment > 0 && increment != 1) {
-        range = NodeModel::tr("%1, step %2").arg(range, text(increment));
+    const auto text = &TracedDevice::text;
+    const bool hasMin = min != std::numeric_limits<Number>::lowest();
+    const bool hasMax = max != std::numeric_limits<Number>::max() && (max != -1 || (hasMin && min <= max));
+    QStringList parts;
+    if (hasMin && hasMax) {
+        parts.append(QStringLiteral("%1 … %2").arg(text(min), text(max)));
+    } else if (hasMin || hasMax) {
+        parts.append(hasMin ? QStringLiteral("≥ ") + text(min) : QStringLiteral("≤ ") + text(max));
     }
-    return status;
+    if (increment > 0 && increment != 1) {
+        parts.append(NodeModel::tr("step %1").arg(text(increment)));
+    }
+    return parts.join(QStringLiteral(", "));
 }
 
-long readValue(GenicamDevice *device, const QString &node, QString &value, QString &range)
+/// Reads the value, which the device tells whoever traces it, and returns the range or the entries.
+QString read(Device &device, RuvoNodeType type, const QString &node)
 {
-    switch (device->getNodeType(node)) {
+    int numbers[4] = {};
+    float reals[4] = {};
+    bool isOn = false;
+    QString value;
+    QList<QString> entries;
+    switch (type) {
     case RuvoNodeInteger:
-        return readNumber(device, &Device::getParamInt, node, value, range);
+        device.getParamInt(node, numbers[0], numbers[1], numbers[2], numbers[3]);
+        return rangeText(numbers[1], numbers[2], numbers[3]);
     case RuvoNodeFloat:
-        return readNumber(device, &Device::getParamFloat, node, value, range);
-    case RuvoNodeBoolean: {
-        bool isOn = false;
-        const long status = device->getParamBool(node, isOn);
-        value = isOn ? QStringLiteral("true") : QStringLiteral("false");
-        return status;
-    }
-    case RuvoNodeEnumeration: {
-        QList<QString> entries;
-        const long status = device->getParamEnum(node, value, entries);
-        range = QStringList(entries).join(QStringLiteral(", "));
-        return status;
-    }
+        device.getParamFloat(node, reals[0], reals[1], reals[2], reals[3]);
+        return rangeText(reals[1], reals[2], reals[3]);
+    case RuvoNodeBoolean:
+        device.getParamBool(node, isOn);
+        return {};
+    case RuvoNodeEnumeration:
+        device.getParamEnum(node, value, entries);
+        return QStringList(entries).join(QStringLiteral(", "));
     default:
-        return device->getParamString(node, value);
+        device.getParamString(node, value);
+        return {};
     }
 }
 
 } // namespace
 
-void NodeModel::setDevice(GenicamDevice *device)
+void NodeModel::refresh(GenicamDevice *device)
 {
-    m_device = device;
-    m_nodes.clear();
-    setRowCount(0);
-}
-
-void NodeModel::refresh()
-{
-    const QStringList nodes = m_device ? m_device->nodes() : QStringList();
-    if (nodes != m_nodes) {
-        setRowCount(0);
-        m_nodes = nodes;
-        setRowCount(m_nodes.size());
-    }
-    for (int row = 0; row < m_nodes.size(); ++row) {
-        const QString &node = m_nodes[row];
-        const RuvoNodeAccessMode mode = m_device->getNodeAccessMode(node);
-        QString value;
-        QString range;
-        QString error;
-        if ((mode == RuvoNodeReadOnly || mode == RuvoNodeReadWrite) && readValue(m_device, node, value, range) != 0) {
-            value = QStringLiteral("–");
-            range.clear();
-            error = m_device->lastError();
-        }
-        const QString cells[] = {node, TracedDevice::name(m_device->getNodeType(node)), accessText(mode), value, range,
-                                 m_device->unit(node), m_device->description(node).simplified()};
-        for (int column = Node; column <= Description; ++column) { // what stays the same is not reported as changed
-            const QString &tip = column == Value && !error.isEmpty() ? error : cells[column];
-            setData(index(row, column), cells[column], Qt::DisplayRole);
-            setData(index(row, column), RecordTable::toolTip(tip), Qt::ToolTipRole);
-        }
-    }
-}
-
-void NodeModel::retranslateHeadings()
-{
+    const QStringList nodes = device ? device->nodes() : QStringList();
     setHorizontalHeaderLabels({tr("Node"), tr("Type"), tr("Access"), tr("Value"), tr("Range"), tr("Unit"),
                                tr("Description")});
+    setRowCount(nodes.size());
+    for (int row = 0; row < nodes.size(); ++row) {
+        const QString &node = nodes[row];
+        const RuvoNodeType type = device->getNodeType(node);
+        const RuvoNodeAccessMode mode = device->getNodeAccessMode(node);
+        TracedDevice::Call call{};
+        TracedDevice traced(*device, [&](const auto &made) { call = made; }, [&] { return device->lastError(); });
+        const bool isReadable = mode == RuvoNodeReadOnly || mode == RuvoNodeReadWrite;
+        const QString range = isReadable ? read(traced, type, node) : QString();
+        const bool isRead = call.status == 0;
+        const QString cells[] = {node, TracedDevice::name(type), accessText(mode),
+                                 isRead ? call.value : QStringLiteral("– ") + call.reason, isRead ? range : QString(),
+                                 device->unit(node), device->description(node).simplified()};
+        for (int column = Node; column <= Description; ++column) { // what stays the same is not reported as changed
+            setData(index(row, column), cells[column], Qt::DisplayRole);
+        }
+    }
 }

@@ -13,13 +13,6 @@ public:
 
     using QStandardItemModel::QStandardItemModel;
 
-    /// Not owned; null, before it goes away, empties the model. Reads nothing.
-    void setDevice(GenicamDevice *device);
-    /// Reads every node, with a few requests to the device each.
-    void refresh();
-    void retranslateHeadings();
-
-private:
-    GenicamDevice *m_device = nullptr; // not owned
-    QStringList m_nodes;               // of the rows
+    /// Reads every node, with a few requests to the device each; null empties the model.
+    void refresh(GenicamDevice *device);
 };

@@ -1,15 +1,12 @@
 #pragma once
 
-#include <QWidget>
+#include "RecordTable.h"
 
 class GenicamDevice;
 class NodeModel;
-class QLineEdit;
-class QPushButton;
-class RecordTable;
 
 /// Every node of a device in one table, to be searched, sorted and copied.
-class NodeView : public QWidget
+class NodeView : public RecordTable
 {
     Q_OBJECT
 public:
@@ -19,19 +16,13 @@ public:
     void setDevice(GenicamDevice *device);
 
 public Q_SLOTS:
-    /// Reads every node again; cheap while the view is not visible, which reads when it is shown.
+    /// Reads every node again; nothing while the view is not visible, which reads when it is shown.
     void refresh();
 
 protected:
-    void changeEvent(QEvent *event) override;
-    void showEvent(QShowEvent *event) override;
+    bool event(QEvent *event) override;
 
 private:
-    void retranslate();
-
-    bool m_isStale = false;
-    NodeModel *m_model; // these: children
-    RecordTable *m_table;
-    QLineEdit *m_search;
-    QPushButton *m_refresh;
+    NodeModel *m_model; // child
+    GenicamDevice *m_device = nullptr; // not owned
 };

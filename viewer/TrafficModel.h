@@ -3,7 +3,6 @@
 #include "TracedDevice.h"
 
 #include <QAbstractTableModel>
-#include <QTimer>
 
 #include <deque>
 
@@ -14,11 +13,9 @@ class TrafficModel : public QAbstractTableModel
     Q_OBJECT
 public:
     enum Column { Time, Operation, Node, Value, Status, Duration };
-    /// A row's operation, node, value and status, a line each.
-    static constexpr int SearchRole = Qt::UserRole;
     static constexpr int kMaxCalls = 100000;
 
-    explicit TrafficModel(QObject *parent = nullptr);
+    using QAbstractTableModel::QAbstractTableModel;
 
     /// Only stores the call; it becomes a row, together with others, a tenth of a second later.
     void append(const TracedDevice::Call &call);
@@ -38,6 +35,5 @@ private:
 
     std::deque<TracedDevice::Call> m_calls;
     std::deque<TracedDevice::Call> m_pending;
-    QTimer m_timer;
     bool m_paused = false;
 };

@@ -1,17 +1,12 @@
 #pragma once
 
-#include <QWidget>
+#include "RecordTable.h"
 
-class QCheckBox;
-class QLineEdit;
-class QPushButton;
-class RecordTable;
-class TrafficFilter;
 class TrafficModel;
 
 /// Shows the calls to a device, to be filtered, copied and saved. Follows the newest call, unless the user has
 /// scrolled up.
-class TrafficView : public QWidget
+class TrafficView : public RecordTable
 {
     Q_OBJECT
 public:
@@ -25,22 +20,14 @@ public:
     QByteArray csv() const;
 
 protected:
-    void changeEvent(QEvent *event) override;
+    bool accepts(int row) const override;
 
 private:
-    TrafficModel *model() const;
     void followEnd();
-    void chooseFile();
-    void save(const QString &fileName);
-    void retranslate();
+    void save();
 
+    QAbstractButton *m_writesOnly; // children
+    QAbstractButton *m_pause;
+    TrafficModel *m_model = nullptr; // not owned
     bool m_atEnd = true;
-    TrafficFilter *m_shown; // these: children
-    RecordTable *m_table;
-    QLineEdit *m_filter;
-    QCheckBox *m_writesOnly;
-    QPushButton *m_pause;
-    QPushButton *m_clear;
-    QPushButton *m_copy;
-    QPushButton *m_save;
 };

@@ -15,39 +15,18 @@
 
 namespace {
 
-long setNode(Device &device, const QString &node, const QString &value)
+bool setNode(Device &device, const QString &node, const QString &value)
 {
-    switch (device.getNodeType(node)) {
-    case RuvoNodeInteger: {
-        bool isNumber = false;
-        const int number = value.toInt(&isNumber);
-        return isNumber ? device.setParamInt(node, number) : -1;
-    }
-    case RuvoNodeFloat: {
-        bool isNumber = false;
-        const float number = value.toFloat(&isNumber);
-        return isNumber ? device.setParamFloat(node, number) : -1;
-    }
-    case RuvoNodeBoolean: {
-        const bool on = value == QLatin1String("true");
-        return on || value == QLatin1String("false") ? device.setParamBool(node, on) : -1;
-    }
-    case RuvoNodeEnumeration:
-        return device.setParamEnum(node, value);
-    case RuvoNodeCommand:
-        return device.executeCMD(node);
-    case RuvoNodeString:
-    case RuvoNodeUnknown:
-        break;
-    }
-    return device.setParamString(node, value);
+    const RuvoNodeType type = device.getNodeType(node);
+    return type == RuvoNodeCommand ? device.executeCMD(node) == 0
+                                   : SettingsFile::write(device, {node, type, SettingsFile::fromText(value, type)});
 }
 
 /// What --set asks for; the first refusal ends it.
 QString setNodes(Device &device, const Options &options)
 {
     for (const auto &setting : options.settings) {
-        if (setNode(device, setting.first, setting.second) != 0) {
+        if (!setNode(device, setting.first, setting.second)) {
             return QStringLiteral("The camera refuses %1=%2").arg(setting.first, setting.second);
         }
     }

@@ -1,0 +1,251 @@
+#include "CameraProcess.h"
+
+#include "panel/VyTriggerConfigWdg.h"
+#include "viewer/MainWindow.h"
+
+#include <QAction>
+#include <QApplication>
+#include <QComboBox>
+#include <QDoubleSpinBox>
+#include <QLabel>
+#include <QListWidget>
+#include <QMenu>
+#include <QMessageBox>
+#include <QPushButton>
+#include <QSettings>
+#include <QStandardPaths>
+#include <QStatusBar>
+#include <QTimer>
+#include <QtTest>
+
+namespace {
+
+const QString kAddress = QStringLiteral("127.0.0.1");
+
+} // namespace
+
+/// The viewer's window with the built-in camera and others on the network.
+class WindowTest : public QObject
+{
+    Q_OBJECT
+
+    DevicePage *open(const QString &address, CameraConnection::State expected = CameraConnection::Open)
+    {
+        m_window->openDevice(address);
+        DevicePage *const page = m_window->currentPage();
+        const bool done = QTest::qWaitFor([page, expected] { return page->connection().state() == expected; }, 10000);
+        return done && QTest::qWaitFor([page] { return !page->device() || modeOf(page); }) ? page : nullptr;
+    }
+    static VyTriggerConfigWdg *panel(const DevicePage *page) { return page->findChild<VyTriggerConfigWdg *>(); }
+    static QComboBox *modeOf(const DevicePage *page)
+    {
+        const auto *const row = page->findChild<QWidget *>(QStringLiteral("InputTriggerMode"));
+        return row ? row->findChild<QComboBox *>() : nullptr; // made when the row is first shown
+    }
+    static QDoubleSpinBox *delayBox(const DevicePage *page)
+    {
+        return page->findChild<QWidget *>(kDelay)->findChild<QDoubleSpinBox *>();
+    }
+    QAction *action(const char *name) const { return m_window->findChild<QAction *>(QString::fromLatin1(name)); }
+    QAction *entry(const char *menu, const char *name) const
+    {
+        QMenu *const popup = action(menu)->menu();
+        Q_EMIT popup->aboutToShow();
+        for (QAction *each : popup->actions()) {
+            if (each->text() == QLatin1String(name)) {
+                return each;
+            }
+        }
+        return nullptr;
+    }
+    void typeDelay(const DevicePage *page, const char *keys) const
+    {
+        auto *const box = delayBox(page);
+        QTRY_VERIFY(box->isVisible());
+        box->setFocus();
+        QTest::keyClick(box, Qt::Key_A, Qt::ControlModifier);
+        QTest::keyClicks(box, QString::fromLatin1(keys));
+    }
+    QString said() const { return m_window->statusBar()->currentMessage(); }
+    QStringList listed() const
+    {
+        QStringList texts;
+        const auto *const list = m_window->findChild<QListWidget *>(QStringLiteral("deviceList"));
+        for (int i = 0; i < list->count(); ++i) {
+            texts.append(list->item(i)->text());
+        }
+        return texts;
+    }
+    void restart(bool remember)
+    {
+        m_window.reset();
+        m_window = std::make_unique<MainWindow>(QStringLiteral("en"), remember);
+        m_window->show();
+        m_window->activateWindow();
+        QVERIFY(QTest::qWaitForWindowActive(m_window.get()));
+    }
+
+    CameraProcess m_camera;
+    std::unique_ptr<MainWindow> m_window;
+
+private Q_SLOTS:
+    void initTestCase()
+    {
+        QStandardPaths::setTestModeEnabled(true);
+        QCoreApplication::setOrganizationName(QStringLiteral("vytrigger-test"));
+        QSettings().clear();
+    }
+    void init()
+    {
+        const QString answer = m_camera.start();
+        QVERIFY2(answer.contains(kAddress), qPrintable(answer));
+        restart(false);
+    }
+    void cleanup()
+    {
+        m_window.reset();
+        m_camera.kill();
+    }
+
+    void camerasDoNotTouchEachOther()
+    {
+        DevicePage *const builtIn = open({});
+        DevicePage *const remote = open(kAddress);
+        QVERIFY(builtIn != remote && panel(builtIn) && panel(remote));
+        modeOf(remote)->setCurrentText(QStringLiteral("Hold"));
+        QCOMPARE(modeOf(builtIn)->currentText(), QStringLiteral("Normal"));
+        action("start")->trigger();
+        QVERIFY(remote->isAcquiring() && !builtIn->isAcquiring());
+
+        // What is refused is said; of a camera that is not in front with its name.
+        const long status = remote->device()->setParamFloat(kDelay, 1);
+        QVERIFY(status != 0);
+        QVERIFY2(said().startsWith(kDelay), qPrintable(said()));
+        m_window->openDevice({});
+        QCOMPARE(m_window->currentPage(), builtIn);
+        QVERIFY(remote->device()->setParamFloat(kDelay, 2) == status);
+        QVERIFY2(said().contains(QStringLiteral("EV-000001")) && said().contains(QLatin1Char('2')), qPrintable(said()));
+
+        const VyTriggerConfigWdg *const before = panel(builtIn);
+        m_camera.kill();
+        QCoreApplication::processEvents(); // the end of an action: what was read is forgotten
+        remote->device()->getNodeAccessMode(kDelay);
+        QTRY_COMPARE(remote->connection().state(), CameraConnection::Lost);
+        QVERIFY(!panel(remote));
+        QCOMPARE(panel(builtIn), before);
+        QVERIFY(builtIn->device()->setParamFloat(kDelay, 3) == 0);
+    }
+
+    void aLostCameraComesBack()
+    {
+        DevicePage *const page = open(kAddress);
+        modeOf(page)->setCurrentText(QStringLiteral("Hold"));
+        QCoreApplication::processEvents();
+        m_camera.kill();
+        modeOf(page)->setCurrentText(QStringLiteral("None"));
+        QTRY_VERIFY(!panel(page));
+        auto *const notice = page->findChild<QWidget *>(QStringLiteral("notice"));
+        QVERIFY(notice->isVisible());
+        QVERIFY(notice->findChild<QLabel *>(QStringLiteral("noticeText"))->text().contains(page->connection().reason()));
+        QVERIFY(said().contains(QStringLiteral("InputTriggerMode")) && said().contains(page->connection().reason()));
+        QVERIFY(!action("start")->isEnabled() && !action("saveSettings")->isEnabled());
+
+        QVERIFY(m_camera.start().contains(kAddress));
+        QTest::mouseClick(notice->findChild<QPushButton *>(), Qt::LeftButton);
+        QVERIFY2(!page->device(), "opening does not keep anybody waiting");
+        QTRY_VERIFY_WITH_TIMEOUT(panel(page) && modeOf(page), 10000);
+        QVERIFY(!notice->isVisible());
+        QCOMPARE(modeOf(page)->currentText(), QStringLiteral("Normal"));
+        typeDelay(page, "7\r");
+        QCOMPARE(delayOf(page->device()), 7.F);
+    }
+
+    void aCameraOfSomebodyElseIsReadOnly()
+    {
+        CameraConnection first(kAddress);
+        first.open();
+        QTRY_COMPARE_WITH_TIMEOUT(first.state(), CameraConnection::Open, 10000);
+        const DevicePage *const page = open(kAddress);
+        QVERIFY(page->findChild<QWidget *>(QStringLiteral("readOnlyStrip"))->isVisible());
+        QVERIFY(!delayBox(page)->isEnabled());
+        QVERIFY(!action("start")->isEnabled() && !action("applySettings")->isEnabled());
+        QVERIFY2(listed().last().contains(QStringLiteral("read-only")), qPrintable(listed().last()));
+    }
+
+    void pendingEditsAreWritten()
+    {
+        DevicePage *const page = open({});
+        // Each would discard it: the first locks the editor, the second changes the mode under it.
+        typeDelay(page, "1.5");
+        action("start")->trigger();
+        QCOMPARE(delayOf(page->device()), 1.5F);
+        action("stop")->trigger();
+        typeDelay(page, "2.5");
+        entry("saveUserSet", "UserSet1")->trigger();
+        typeDelay(page, "3.5");
+        entry("saveUserSet", "UserSet2")->trigger();
+        entry("loadUserSet", "UserSet1")->trigger();
+        QCOMPARE(delayOf(page->device()), 2.5F);
+        QCOMPARE(delayBox(page)->value(), 2.5);
+        entry("loadUserSet", "UserSet2")->trigger();
+        QCOMPARE(delayOf(page->device()), 3.5F);
+    }
+
+    void loadingAsksWhenThereIsSomethingToLose()
+    {
+        DevicePage *const page = open({});
+        QStringList asked;
+        QTimer answer; // while the question waits
+        connect(&answer, &QTimer::timeout, this, [&asked] {
+            if (auto *const box = qobject_cast<QMessageBox *>(QApplication::activeModalWidget())) {
+                asked.append(box->objectName());
+                box->button(QMessageBox::Cancel)->click();
+            }
+        });
+        answer.start(10);
+        entry("loadUserSet", "Default")->trigger();
+        QVERIFY(asked.isEmpty());
+        typeDelay(page, "4");
+        entry("loadUserSet", "Default")->trigger();
+        QCOMPARE(asked, QStringList{QStringLiteral("loadUserSetBox")});
+        QCOMPARE(delayOf(page->device()), 4.F);
+        entry("saveUserSet", "Default")->trigger(); // which no camera takes
+        QVERIFY2(said().contains(QStringLiteral("UserSetSave")), qPrintable(said()));
+        entry("loadUserSet", "Default")->trigger();
+        QCOMPARE(asked.size(), 2);
+        entry("saveUserSet", "UserSet1")->trigger();
+        entry("loadUserSet", "Default")->trigger();
+        QCOMPARE(asked.size(), 2);
+        QCOMPARE(delayOf(page->device()), 0.F);
+    }
+
+    void camerasAreRemembered()
+    {
+        restart(true);
+        open(kAddress);
+        open(QStringLiteral("127.0.0.3"), CameraConnection::Failed);
+        m_window->resize(777, 555);
+        m_window->close();
+        restart(true);
+        QCOMPARE(m_window->size(), QSize(777, 555));
+        QVERIFY(!m_window->currentPage());
+        const QString all = listed().join(QLatin1Char('|'));
+        QVERIFY2(all.contains(QStringLiteral("EV-000001")) && all.contains(QStringLiteral("127.0.0.3")), qPrintable(all));
+        QCOMPARE(all.count(QStringLiteral("not connected")), 3);
+    }
+
+    void closingReleasesTheCamera()
+    {
+        open(kAddress);
+        action("closeDevice")->trigger();
+        QVERIFY(!m_window->currentPage());
+        QTRY_VERIFY([this] { // in the background
+            const bool isReadOnly = open(kAddress)->isReadOnly();
+            action("closeDevice")->trigger();
+            return !isReadOnly;
+        }());
+    }
+};
+
+QTEST_MAIN(WindowTest)
+#include "WindowTest.moc"
