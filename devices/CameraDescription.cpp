@@ -218,7 +218,7 @@ QByteArray CameraDescription::read(const QString &name, QString *error)
         *error = file.errorString();
         return {};
     }
-    const QByteArray bytes = file.read(kMaxDescription + 1);
+    QByteArray bytes = file.read(kMaxDescription + 1);
     if (file.error() != QFileDevice::NoError) {
         *error = file.errorString();
     } else if (bytes.size() > kMaxDescription) {

@@ -25,7 +25,7 @@ struct Reference : std::unique_ptr<T, decltype(&g_object_unref)>
 
 QString take(GError *error)
 {
-    const QString text = error ? QString::fromUtf8(error->message) : QStringLiteral("?");
+    QString text = error ? QString::fromUtf8(error->message) : QStringLiteral("?");
     g_clear_error(&error);
     return text;
 }

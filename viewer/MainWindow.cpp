@@ -119,6 +119,9 @@ void MainWindow::openDevice(const QString &address, const QString &description)
             return;
         }
     }
+    if (!address.isEmpty()) {
+        m_lastAddress = address;
+    }
     m_list->setCamera({address, {}, {}, {}});
     auto *const page = new DevicePage(m_list->camera(address), description, m_tabs);
     connect(page, &DevicePage::changed, this, [this, page] { followPage(page); });
@@ -460,8 +463,7 @@ void MainWindow::askForAddress()
     check(m_lastAddress);
     address->lineEdit()->selectAll();
     if (dialog.exec() == QDialog::Accepted) {
-        m_lastAddress = address->currentText().trimmed();
-        openDevice(m_lastAddress);
+        openDevice(address->currentText().trimmed());
     }
 }
 

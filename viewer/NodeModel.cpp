@@ -69,7 +69,7 @@ void NodeModel::refresh(GenicamDevice *device)
     setHorizontalHeaderLabels({tr("Node"), tr("Type"), tr("Access"), tr("Value"), tr("Range"), tr("Unit"),
                                tr("Description")});
     setRowCount(nodes.size());
-    for (int row = 0; row < nodes.size(); ++row) {
+    for (int row = 0; device && row < nodes.size(); ++row) {
         const QString &node = nodes[row];
         const RuvoNodeType type = device->getNodeType(node);
         const RuvoNodeAccessMode mode = device->getNodeAccessMode(node);

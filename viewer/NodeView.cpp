@@ -18,7 +18,7 @@ NodeView::NodeView(QWidget *parent)
     m_table->setModel(m_shown);
     m_table->horizontalHeader()->setSortIndicator(-1, Qt::AscendingOrder); // the device's order
     m_table->setSortingEnabled(true);
-    setColumnWidths({35, 14, 14, 18, 26, 7, 40});
+    setColumnWidths({35, 14, 18, 18, 26, 7, 40});
     retranslate();
 }
 

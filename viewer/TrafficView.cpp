@@ -100,7 +100,8 @@ void TrafficView::save()
     const QString name = QFileDialog::getSaveFileName(this, tr("Save traffic"), QStringLiteral("traffic.csv"),
                                                       tr("CSV files (*.csv)"));
     QSaveFile file(name);
-    if (!name.isEmpty() && (!file.open(QIODevice::WriteOnly) || file.write(csv()) < 0 || !file.commit())) {
+    // Flushed first: a full disk does not stop commit().
+    if (!name.isEmpty() && (!file.open(QIODevice::WriteOnly) || file.write(csv()) < 0 || !file.flush() || !file.commit())) {
         QMessageBox::critical(this, tr("Save traffic"), tr("%1 cannot be written: %2").arg(name, file.errorString()));
     }
 }
