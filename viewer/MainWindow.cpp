@@ -149,7 +149,8 @@ void MainWindow::fitToPanel()
 {
     const auto *const area = currentPage() ? currentPage()->findChild<QScrollArea *>() : nullptr;
     if (area) {
-        resize(width(), height() + area->widget()->minimumSizeHint().height() - area->viewport()->height());
+        const int missing = fontMetrics().averageCharWidth() * kPanelWidth - currentPage()->width();
+        resize(width() + qMax(missing, 0), height() + area->widget()->minimumSizeHint().height() - area->viewport()->height());
     }
 }
 

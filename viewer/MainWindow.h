@@ -38,7 +38,7 @@ public:
     /// Null when no camera is open.
     DevicePage *currentPage() const;
 
-    /// Makes the window so tall that nothing of the current panel is cut off.
+    /// Makes the window so large that nothing of the current panel is cut off, whatever the screen.
     void fitToPanel();
 
 protected:
