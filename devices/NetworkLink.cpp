@@ -180,7 +180,8 @@ bool NetworkLink::Shared::serve(ArvDevice *device, Request &request)
     if (ok) {
         return true;
     }
-    const bool answered = failure && failure->code != ARV_DEVICE_ERROR_TIMEOUT && failure->code != ARV_DEVICE_ERROR_NOT_CONNECTED;
+    const bool answered = failure && failure->domain == ARV_DEVICE_ERROR && failure->code != ARV_DEVICE_ERROR_TIMEOUT
+        && failure->code != ARV_DEVICE_ERROR_NOT_CONNECTED; // else it may be the network that says no
     request.error = take(failure);
     return answered;
 }

@@ -37,6 +37,7 @@ using VyViewer::Singleton;
 namespace {
 
 constexpr int kMessageTime = 10000; // milliseconds that a message stays in the status bar
+constexpr char kInFront[] = "inFront";
 constexpr int kListWidth = 38;      // average characters
 constexpr int kPanelWidth = 92;
 constexpr int kPanelHeight = 45;    // lines
@@ -213,8 +214,15 @@ void MainWindow::buildDocks()
         const bool isList = dock.contents == m_list;
         addDockWidget(isList ? Qt::LeftDockWidgetArea : Qt::BottomDockWidgetArea, dock.dock);
         dock.dock->setVisible(isList);
-        // Shown means seen, also where it shares its place with another.
-        connect(dock.dock->toggleViewAction(), &QAction::triggered, dock.dock, &QWidget::raise);
+        // Shown means seen, also where it shares its place with another: one behind that comes to the front first.
+        QDockWidget *const widget = dock.dock;
+        connect(widget, &QDockWidget::visibilityChanged, widget, [widget](bool isInFront) {
+            widget->setProperty(kInFront, isInFront);
+        }, Qt::QueuedConnection); // known to the following as it was before
+        connect(widget->toggleViewAction(), &QAction::triggered, widget, [widget] {
+            widget->setVisible(widget->isVisible() || !widget->property(kInFront).toBool());
+            widget->raise();
+        });
     }
     tabifyDockWidget(m_docks[1].dock, m_docks[2].dock);
     setCorner(Qt::BottomLeftCorner, Qt::LeftDockWidgetArea);
