@@ -4,6 +4,8 @@
 
 #include "PortDevice.h"
 
+#include <QHash>
+
 #include <chrono>
 #include <condition_variable>
 #include <cstring>
@@ -30,32 +32,42 @@ QString take(GError *error)
     return text;
 }
 
-/// Counts the threads that may still be releasing a camera, and has the process wait for them: a camera that is
-/// not released stays reserved for seconds.
-class Running
+/// The cameras that are being released. Until that is done they are reserved: who opens one again waits for it, and
+/// so does the end of the process.
+class Releases
 {
 public:
-    void add(int change)
-    {
-        const std::lock_guard<std::mutex> lock(m_mutex);
-        m_count += change;
-        m_changed.notify_all();
-    }
-    ~Running()
+    void begin(const QString &address) { add(address, 1); }
+    void end(const QString &address) { add(address, -1); }
+    void wait(const QString &address)
     {
         std::unique_lock<std::mutex> lock(m_mutex);
-        m_changed.wait(lock, [this] { return m_count == 0; });
+        m_changed.wait(lock, [this, &address] { return !m_counts.contains(address); });
+    }
+    ~Releases()
+    {
+        std::unique_lock<std::mutex> lock(m_mutex);
+        m_changed.wait(lock, [this] { return m_counts.isEmpty(); });
     }
 
 private:
+    void add(const QString &address, int change)
+    {
+        const std::lock_guard<std::mutex> lock(m_mutex);
+        if ((m_counts[address] += change) == 0) {
+            m_counts.remove(address);
+        }
+        m_changed.notify_all();
+    }
+
     std::mutex m_mutex;
     std::condition_variable m_changed;
-    int m_count = 0;
+    QHash<QString, int> m_counts;
 };
 
-Running &running()
+Releases &releases()
 {
-    static Running instance;
+    static Releases instance;
     return instance;
 }
 
@@ -106,14 +118,18 @@ struct NetworkLink::Shared
         QString error;
     };
 
-    void run(const std::shared_ptr<Shared> &self, const QString &address);
-    bool open(const QString &address, DevicePointer &device);
+    explicit Shared(QString of) : address(std::move(of)) {}
+
+    void run();
+    bool open(DevicePointer &device);
     static bool serve(ArvDevice *device, Request &request);
     void lose(const QString &reason);
+    void release();
 
+    const QString address;
     std::mutex mutex; // for all that follows
     std::condition_variable changed;
-    enum { Opening, Open, Failed, Closing } state = Opening;
+    enum { Opening, Open, Failed, Releasing } state = Opening;
     std::deque<std::shared_ptr<Request>> queue;
     QString error;  // of opening
     QString lost;   // why, once it is
@@ -122,7 +138,7 @@ struct NetworkLink::Shared
     bool isController = false;
 };
 
-bool NetworkLink::Shared::open(const QString &address, DevicePointer &device)
+bool NetworkLink::Shared::open(DevicePointer &device)
 {
     QString why;
     device = openDevice(address, &why);
@@ -139,16 +155,16 @@ bool NetworkLink::Shared::open(const QString &address, DevicePointer &device)
     return bool(device);
 }
 
-void NetworkLink::Shared::run(const std::shared_ptr<Shared> &self, const QString &address)
+void NetworkLink::Shared::run()
 {
     DevicePointer device;
-    if (!open(address, device)) {
+    if (!open(device)) {
         return;
     }
     // On the heartbeat's thread. Releasing the device ends that thread, and we outlive the device.
-    g_signal_connect(device.get(), "control-lost", G_CALLBACK(+[](ArvDevice *, gpointer shared) {
+    const gulong handler = g_signal_connect(device.get(), "control-lost", G_CALLBACK(+[](ArvDevice *, gpointer shared) {
         static_cast<Shared *>(shared)->lose(tr("The camera is gone, was restarted, or obeys another program now."));
-    }), self.get());
+    }), this);
     std::unique_lock<std::mutex> lock(mutex);
     while (state == Open) {
         if (queue.empty()) {
@@ -167,7 +183,14 @@ void NetworkLink::Shared::run(const std::shared_ptr<Shared> &self, const QString
         changed.notify_all();
     }
     lock.unlock();
+    // While the signal is being emitted the heartbeat's thread holds a reference. Were that the last, the thread would
+    // wait for its own end; without a handler there is no further emission.
+    g_signal_handler_disconnect(device.get(), handler);
+    while (g_atomic_int_get(&G_OBJECT(device.get())->ref_count) > 1) {
+        std::this_thread::sleep_for(std::chrono::milliseconds(1));
+    }
     device.reset();
+    releases().end(address);
 }
 
 /// Whether the camera answered, if only with a refusal.
@@ -193,24 +216,31 @@ void NetworkLink::Shared::lose(const QString &reason)
         return;
     }
     lost = reason;
-    changed.notify_all();
+    release(); // at once: it may take its time, and who opens the camera again waits for it
     if (onLost) {
         onLost(); // under the lock, so that nobody who has closed the link is called
     }
 }
 
+/// Has the thread let go of the camera. Under the lock.
+void NetworkLink::Shared::release()
+{
+    if (state == Open) {
+        state = Releasing;
+        releases().begin(address);
+        changed.notify_all();
+    }
+}
+
 std::unique_ptr<NetworkLink> NetworkLink::open(const QString &address, QString *error)
 {
-    auto shared = std::make_shared<Shared>();
-    running().add(1);
-    std::thread([shared, address] {
-        shared->run(shared, address);
-        running().add(-1);
-    }).detach();
+    releases().wait(address);
+    const auto shared = std::make_shared<Shared>(address);
+    std::thread([shared] { shared->run(); }).detach();
     std::unique_lock<std::mutex> lock(shared->mutex);
     shared->changed.wait(lock, [&shared] { return shared->state != Shared::Opening; });
     *error = shared->error;
-    return shared->state == Shared::Open ? std::unique_ptr<NetworkLink>(new NetworkLink(shared)) : nullptr;
+    return shared->state == Shared::Failed ? nullptr : std::unique_ptr<NetworkLink>(new NetworkLink(shared));
 }
 
 NetworkLink::NetworkLink(std::shared_ptr<Shared> shared)
@@ -221,9 +251,8 @@ NetworkLink::NetworkLink(std::shared_ptr<Shared> shared)
 NetworkLink::~NetworkLink()
 {
     const std::lock_guard<std::mutex> lock(m_shared->mutex);
-    m_shared->state = Shared::Closing;
     m_shared->onLost = nullptr;
-    m_shared->changed.notify_all();
+    m_shared->release();
 }
 
 QByteArray NetworkLink::description() const

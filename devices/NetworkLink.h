@@ -19,7 +19,8 @@ class NetworkLink final : public RegisterPort
     Q_DECLARE_TR_FUNCTIONS(NetworkLink)
 public:
     /// Takes control of the camera at an IPv4 address, unless somebody else has it. Waits up to some five seconds
-    /// for it. Null and the reason when it cannot be opened.
+    /// for it, and as long again where the same camera is just being released. Null and the reason when it cannot
+    /// be opened.
     static std::unique_ptr<NetworkLink> open(const QString &address, QString *error);
 
     /// Does not wait for the camera to be released; the end of the process does.
