@@ -108,6 +108,7 @@ private Q_SLOTS:
     void cleanup()
     {
         m_connection.close();
+        QTest::qWait(100); // for its release: the end of the process waits long for one without a camera
         m_process.kill();
     }
 
@@ -205,10 +206,6 @@ private Q_SLOTS:
         QTRY_COMPARE(m_connection.state(), CameraConnection::Lost);
         QCOMPARE(m_connection.reason(), camera()->lostReason());
 
-        m_connection.open();
-        QTRY_COMPARE_WITH_TIMEOUT(m_connection.state(), CameraConnection::Failed, 20000);
-        QVERIFY(m_connection.reason().contains(kAddress));
-        QVERIFY(!camera());
         QVERIFY(m_process.start().contains(kAddress));
         openCamera();
         QVERIFY(!camera()->isReadOnly());

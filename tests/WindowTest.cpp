@@ -114,6 +114,7 @@ private Q_SLOTS:
     void cleanup()
     {
         m_window.reset();
+        QTest::qWait(100); // for the release: the end of the process waits long for one without a camera
         m_camera.kill();
     }
 
@@ -225,7 +226,8 @@ private Q_SLOTS:
     {
         restart(true);
         open(kAddress);
-        open(QStringLiteral("127.0.0.3"), CameraConnection::Failed);
+        const DevicePage *const absent = open(QStringLiteral("127.0.0.3"), CameraConnection::Failed);
+        QVERIFY(!absent->device() && absent->connection().reason().contains(QStringLiteral("127.0.0.3")));
         m_window->resize(777, 555);
         m_window->close();
         restart(true);
