@@ -273,6 +273,11 @@ private Q_SLOTS:
         };
         QCOMPARE(apply(device, settingsOf(device, "A=1 B=2 C=3 D=4"))
                      .filter(QStringLiteral(": the camera no longer answers (no way)")).size(), 4);
+
+        ReactingDevice before; // lost when it begins
+        before.node("InputTriggerMode").failsReads = true;
+        before.node("A").mode = RuvoNodeNotAvailable;
+        QCOMPARE(apply(before, settingsOf(before, "A=1")), QStringList(QStringLiteral("A = 1: cannot be written (no way)")));
         QVERIFY2(device.calls.size() <= 4, qPrintable(device.calls.join(QLatin1Char(','))));
     }
 

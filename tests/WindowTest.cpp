@@ -228,6 +228,7 @@ private Q_SLOTS:
         open(kAddress);
         const DevicePage *const absent = open(QStringLiteral("127.0.0.3"), CameraConnection::Failed);
         QVERIFY(!absent->device() && absent->connection().reason().contains(QStringLiteral("127.0.0.3")));
+        QVERIFY2(QSettings().contains(QStringLiteral("devices/") + kAddress), "even if the end never comes");
         m_window->resize(777, 555);
         m_window->close();
         restart(true);

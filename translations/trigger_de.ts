@@ -718,6 +718,10 @@
         <source>the camera holds %1 instead</source>
         <translation>die Kamera hat stattdessen %1</translation>
     </message>
+    <message>
+        <source>cannot be written</source>
+        <translation>kann nicht geschrieben werden</translation>
+    </message>
 </context>
 <context>
     <name>SettingsFile</name>

@@ -345,7 +345,8 @@ void DevicePage::retranslate()
 
 void DevicePage::followConnection()
 {
-    const bool hadFocus = focusWidget() && focusWidget()->hasFocus();
+    const QWidget *const focused = window()->focusWidget(); // also while a dialog is in front
+    const bool takesFocus = isVisible() && (!focused || isAncestorOf(focused));
     delete m_panel;
     m_panel = nullptr;
     m_acquiring = false;
@@ -366,7 +367,7 @@ void DevicePage::followConnection()
         layout()->addWidget(m_panel);
     }
     retranslate();
-    if (hadFocus && !m_reconnect[1]->isHidden()) {
+    if (takesFocus && !m_reconnect[1]->isHidden()) {
         m_reconnect[1]->setFocus();
     }
     Q_EMIT changed();

@@ -176,15 +176,7 @@ void MainWindow::closeEvent(QCloseEvent *event)
         QSettings settings;
         settings.setValue(QStringLiteral("geometry"), saveGeometry());
         settings.setValue(QStringLiteral("state"), saveState());
-        settings.setValue(QStringLiteral("lastAddress"), m_lastAddress);
-        settings.beginGroup(QStringLiteral("devices"));
-        settings.remove(QString());
-        const QVector<DeviceList::Camera> cameras = m_list->cameras();
-        for (const DeviceList::Camera &camera : cameras) {
-            if (!camera.address.isEmpty()) {
-                settings.setValue(camera.address, QStringList{camera.vendor, camera.model, camera.serial});
-            }
-        }
+        rememberCameras();
     }
     QMainWindow::closeEvent(event);
 }
@@ -404,6 +396,24 @@ void MainWindow::setLanguage(const QString &code)
     }
 }
 
+/// Whenever there is news, not only at the end: that may never come.
+void MainWindow::rememberCameras() const
+{
+    if (!m_remember) {
+        return;
+    }
+    QSettings settings;
+    settings.setValue(QStringLiteral("lastAddress"), m_lastAddress);
+    settings.beginGroup(QStringLiteral("devices"));
+    settings.remove(QString());
+    const QVector<DeviceList::Camera> cameras = m_list->cameras();
+    for (const DeviceList::Camera &camera : cameras) {
+        if (!camera.address.isEmpty()) {
+            settings.setValue(camera.address, QStringList{camera.vendor, camera.model, camera.serial});
+        }
+    }
+}
+
 void MainWindow::restore()
 {
     QSettings settings;
@@ -492,6 +502,7 @@ void MainWindow::addFoundCameras()
     }
     if (!cameras.isEmpty()) {
         m_docks[0].dock->show();
+        rememberCameras();
     }
     statusBar()->showMessage(cameras.isEmpty()     ? tr("No camera answered")
                              : cameras.size() == 1 ? tr("1 camera found")
@@ -503,6 +514,7 @@ void MainWindow::followPage(DevicePage *page)
 {
     m_list->setCamera(page->camera());
     m_list->setState(page->camera().address, page->state());
+    rememberCameras();
     const int index = m_tabs->indexOf(page);
     m_tabs->setTabText(index, escaped(DeviceList::name(page->camera())));
     m_tabs->setTabIcon(index, DeviceList::icon(page->state()));

@@ -73,6 +73,7 @@ private:
     void retranslate();
     void setLanguage(const QString &code);
     void restore();
+    void rememberCameras() const;
     DevicePage *pageAt(int index) const;
     void commitPendingEdit() const;
     void closePage(DevicePage *page);

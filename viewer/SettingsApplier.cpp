@@ -69,7 +69,7 @@ void SettingsApplier::visit(Item &item)
     } else if (mode == RuvoNodeReadOnly) {
         item.reason = tr("can only be read now (is the camera acquiring?)");
     } else if (mode != RuvoNodeReadWrite && mode != RuvoNodeWriteOnly) {
-        item.reason = tr("cannot be written in the present mode");
+        item.reason = canReadMode() ? tr("cannot be written in the present mode") : failed(tr("cannot be written"));
     } else if (item.writes == kMaxWrites) {
         item.reason = held.isValid() ? tr("the camera holds %1 instead").arg(SettingsFile::shown(held))
                                      : failed(tr("cannot be read back"));
