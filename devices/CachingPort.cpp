@@ -66,10 +66,6 @@ bool CachingPort::read(quint64 address, void *bytes, quint32 size, QString *erro
 
 bool CachingPort::write(quint64 address, const void *bytes, quint32 size, QString *error)
 {
-    if (m_offline) {
-        *error = QStringLiteral("offline");
-        return false;
-    }
     drop();
     return m_far->write(address, bytes, size, error);
 }

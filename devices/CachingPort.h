@@ -25,7 +25,7 @@ public:
     void setCaching(bool on);
     void drop();
 
-    /// While offline, reads and writes fail without a request.
+    /// While offline, reads fail without a request.
     void setOffline(bool offline) { m_offline = offline; }
 
     bool read(quint64 address, void *bytes, quint32 size, QString *error) override;

@@ -59,8 +59,7 @@ void CameraConnection::open()
     });
     watcher->setFuture(QtConcurrent::run([address = m_address, description = m_description] {
         auto opened = std::make_shared<Opened>();
-        opened->device = address.isEmpty() ? GenicamDevice::openBuiltIn(description, &opened->error)
-                                           : GenicamDevice::openNetwork(address, &opened->error);
+        opened->device = GenicamDevice::open(address, description, &opened->error);
         return opened;
     }));
 }

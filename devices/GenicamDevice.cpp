@@ -378,6 +378,11 @@ std::unique_ptr<GenicamDevice> GenicamDevice::openNetwork(const QString &address
     return std::unique_ptr<GenicamDevice>(new GenicamDevice(std::make_unique<Private>(std::move(device), wire, port)));
 }
 
+std::unique_ptr<GenicamDevice> GenicamDevice::open(const QString &address, const QString &descriptionFile, QString *error)
+{
+    return address.isEmpty() ? openBuiltIn(descriptionFile, error) : openNetwork(address, error);
+}
+
 GenicamDevice::GenicamDevice(std::unique_ptr<Private> implementation)
     : d(std::move(implementation))
 {
@@ -604,9 +609,14 @@ RuvoNodeType GenicamDevice::getNodeType(const QString &name)
 RuvoNodeAccessMode GenicamDevice::getNodeAccessMode(const QString &name)
 {
     const RuvoNodeAccessMode mode = accessModeOf(d->node(name));
-    if (mode == RuvoNodeNotImplemented || (!d->isLost() && !d->isReadOnly())) {
+    if (mode == RuvoNodeNotImplemented) {
         return mode;
     }
-    const bool readable = mode == RuvoNodeReadWrite || mode == RuvoNodeReadOnly;
-    return readable && !d->isLost() ? RuvoNodeReadOnly : RuvoNodeNotAvailable;
+    if (d->isLost()) {
+        return RuvoNodeNotAvailable;
+    }
+    if (!d->isReadOnly()) {
+        return mode;
+    }
+    return mode == RuvoNodeReadWrite || mode == RuvoNodeReadOnly ? RuvoNodeReadOnly : RuvoNodeNotAvailable;
 }

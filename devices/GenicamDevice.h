@@ -39,6 +39,9 @@ public:
     /// handed to another thread. Returns null, and the reason in one line, when it cannot be opened.
     static std::unique_ptr<GenicamDevice> openNetwork(const QString &address, QString *error);
 
+    /// The one at an address or, where that is empty, the simulated one.
+    static std::unique_ptr<GenicamDevice> open(const QString &address, const QString &descriptionFile, QString *error);
+
     /// Does not wait for a camera on the network to be released.
     ~GenicamDevice() override;
 

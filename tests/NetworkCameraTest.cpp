@@ -1,16 +1,20 @@
 #include "CameraProcess.h"
-#include "PanelProbe.h"
 
 #include "devices/CachingPort.h"
 #include "devices/CameraConnection.h"
 #include "devices/CameraFinder.h"
 #include "panel/VyTriggerConfigWdg.h"
-#include "parampage/DeviceEvents.h"
+#include "viewer/TracedDevice.h"
 
+#include <VyViewerCore/CoreEventBus.h>
 #include <VyViewerCore/IDeviceManager.h>
+#include <VyViewerCore/Singleton.h>
+
+#include <QtTest>
 
 #include <cstring>
 
+using VyViewer::CoreEventBus;
 using VyViewer::IDeviceManager;
 using VyViewer::Singleton;
 
@@ -43,43 +47,6 @@ public:
     QStringList reads;
     quint32 largest = 4096;
     QByteArray memory = QByteArray(4096, 'a');
-};
-
-/// Does something in the middle of what a device is asked.
-class InterruptedDevice final : public Device
-{
-public:
-    InterruptedDevice(Device *device, std::function<void()> interruption)
-        : m_device(device), m_interruption(std::move(interruption)) {}
-
-    void interruptAfter(int calls) { m_left = calls; }
-
-    long getParamInt(const QString &n, int &v, int &a, int &b, int &c) override { return next()->getParamInt(n, v, a, b, c); }
-    long getParamFloat(const QString &n, float &v, float &a, float &b, float &c) override { return next()->getParamFloat(n, v, a, b, c); }
-    long getParamBool(const QString &n, bool &v) override { return next()->getParamBool(n, v); }
-    long getParamEnum(const QString &n, QString &v, QList<QString> &e) override { return next()->getParamEnum(n, v, e); }
-    long getParamString(const QString &n, QString &v) override { return next()->getParamString(n, v); }
-    long setParamInt(const QString &n, int v) override { return next()->setParamInt(n, v); }
-    long setParamFloat(const QString &n, float v) override { return next()->setParamFloat(n, v); }
-    long setParamBool(const QString &n, bool v) override { return next()->setParamBool(n, v); }
-    long setParamEnum(const QString &n, const QString &v) override { return next()->setParamEnum(n, v); }
-    long setParamString(const QString &n, const QString &v) override { return next()->setParamString(n, v); }
-    long executeCMD(const QString &n) override { return next()->executeCMD(n); }
-    RuvoNodeType getNodeType(const QString &n) override { return next()->getNodeType(n); }
-    RuvoNodeAccessMode getNodeAccessMode(const QString &n) override { return next()->getNodeAccessMode(n); }
-
-private:
-    Device *next()
-    {
-        if (m_left-- == 0) {
-            m_interruption();
-        }
-        return m_device;
-    }
-
-    Device *const m_device;
-    int m_left = -1;
-    const std::function<void()> m_interruption;
 };
 
 } // namespace
@@ -165,7 +132,7 @@ private Q_SLOTS:
         // The camera changes without its doing: what it sees stays of one piece until something tells it, or until
         // the next action.
         const std::function<void()> news[] = {
-            [other] { DeviceEvents::post(QStringLiteral("UserSetLoad"), DeviceEvents::payload(other)); },
+            [] { Singleton<CoreEventBus>::getInstance()->post(QStringLiteral("UserSetLoad"), {}); },
             [other] { Q_EMIT Singleton<IDeviceManager>::getInstance()->deviceGrabStatusUpdate(other, 1); },
             [] { QCoreApplication::processEvents(); }};
         float delay = delayOf(other);
@@ -183,7 +150,13 @@ private Q_SLOTS:
 
     void aCameraThatDiesInARefreshIsLostAtOnceAndComesBack()
     {
-        InterruptedDevice device(camera(), [this] { m_process.kill(); });
+        int left = -1; // calls until the camera dies
+        const auto count = [this, &left](const TracedDevice::Call &) {
+            if (left-- == 0) {
+                m_process.kill();
+            }
+        };
+        TracedDevice device(*camera(), count, {});
         {
             VyTriggerConfigWdg panel;
             panel.setVyDevice(&device);
@@ -191,7 +164,7 @@ private Q_SLOTS:
             QCoreApplication::processEvents();
             QSignalSpy changes(&m_connection, &CameraConnection::stateChanged);
             const quint64 before = camera()->roundTrips();
-            device.interruptAfter(3);
+            left = 3;
             panel.hide();
             panel.show();
             QVERIFY2(changes.isEmpty(), "nobody is told in the middle of a refresh");

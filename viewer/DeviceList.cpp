@@ -119,19 +119,22 @@ QIcon DeviceList::icon(State state)
     return icon;
 }
 
-void DeviceList::setCamera(const Camera &camera)
+bool DeviceList::setCamera(const Camera &camera)
 {
     Item *item = toItem(itemFor(camera.address));
+    bool isNews = !item;
     if (!item) {
         item = new Item(this);
         item->camera.address = camera.address;
     }
     for (QString Camera::*text : {&Camera::vendor, &Camera::model, &Camera::serial}) {
-        if (!(camera.*text).isEmpty()) {
+        if (!(camera.*text).isEmpty() && item->camera.*text != camera.*text) {
             item->camera.*text = camera.*text;
+            isNews = true;
         }
     }
     item->update();
+    return isNews;
 }
 
 void DeviceList::setState(const QString &address, State state)

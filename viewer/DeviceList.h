@@ -33,8 +33,9 @@ public:
     static QString text(State state);
     static QIcon icon(State state);
 
-    /// Adds the camera, or brings up to date what is known of it. Empty texts tell nothing new.
-    void setCamera(const Camera &camera);
+    /// Adds the camera, or brings up to date what is known of it. Empty texts tell nothing new. Returns whether
+    /// there was news.
+    bool setCamera(const Camera &camera);
     /// Of a camera that is in the list.
     void setState(const QString &address, State state);
 

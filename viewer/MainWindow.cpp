@@ -124,6 +124,7 @@ void MainWindow::openDevice(const QString &address, const QString &description)
         m_lastAddress = address;
     }
     m_list->setCamera({address, {}, {}, {}});
+    rememberCameras();
     auto *const page = new DevicePage(m_list->camera(address), description, m_tabs);
     connect(page, &DevicePage::changed, this, [this, page] { followPage(page); });
     connect(page, &DevicePage::written, this, [this, page] {
@@ -512,9 +513,10 @@ void MainWindow::addFoundCameras()
 
 void MainWindow::followPage(DevicePage *page)
 {
-    m_list->setCamera(page->camera());
+    if (m_list->setCamera(page->camera())) {
+        rememberCameras();
+    }
     m_list->setState(page->camera().address, page->state());
-    rememberCameras();
     const int index = m_tabs->indexOf(page);
     m_tabs->setTabText(index, escaped(DeviceList::name(page->camera())));
     m_tabs->setTabIcon(index, DeviceList::icon(page->state()));

@@ -1,13 +1,16 @@
 #include "SettingsFile.h"
 
+#include "TracedDevice.h"
+#include "WholeFile.h"
+
 #include <VyViewerCore/Device.h>
 
+#include <QFile>
 #include <QFileInfo>
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
 #include <QRegularExpression>
-#include <QSaveFile>
 #include <QSet>
 
 #include <climits>
@@ -90,11 +93,7 @@ QVariant fromJson(const QJsonValue &value, RuvoNodeType type)
 QString spelled(const QVariant &value)
 {
     if (value.userType() == QMetaType::Float) {
-        QString text = QStringLiteral("0");
-        for (int digits = 6; float(text.toDouble()) != value.toFloat(); ++digits) {
-            text = QString::number(value.toDouble(), 'g', digits);
-        }
-        return text;
+        return TracedDevice::text(value);
     }
     const QByteArray list = QJsonDocument(QJsonArray{QJsonValue::fromVariant(value)}).toJson(QJsonDocument::Compact);
     return QString::fromUtf8(list.mid(1, list.size() - 2));
@@ -242,9 +241,7 @@ QString SettingsFile::save(const QString &fileName) const
                                         "    \"nodes\": [%6\n    ]\n}\n")
                              .arg(kFormat, QString::number(kVersion), spelled(vendor), spelled(model), spelled(serial),
                                   nodes.join(QLatin1Char(',')));
-    QSaveFile file(fileName); // whose commit overlooks that the rest of its buffer could not be written: flush first
-    const bool written = file.open(QIODevice::WriteOnly) && file.write(text.toUtf8()) >= 0 && file.flush();
-    return written && file.commit() ? QString() : file.errorString();
+    return WholeFile::write(fileName, text.toUtf8());
 }
 
 QVariant SettingsFile::value(Device &device, const QString &node, RuvoNodeType type)

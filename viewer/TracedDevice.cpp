@@ -43,7 +43,7 @@ QString TracedDevice::text(const QVariant &value)
         int digits = std::numeric_limits<float>::digits10;
         do {
             text = QString::number(value.toDouble(), 'g', digits++);
-        } while (text.toFloat() != value.toFloat() && digits <= std::numeric_limits<float>::max_digits10);
+        } while (float(text.toDouble()) != value.toFloat() && digits <= std::numeric_limits<float>::max_digits10);
     }
     return text.size() <= kMaxText ? text : text.left(kMaxText) + QStringLiteral("…");
 }

@@ -38,7 +38,8 @@ public:
     static QString name(RuvoNodeType type);
     static QString name(RuvoNodeAccessMode mode);
     static bool isWrite(Operation operation) { return operation >= SetInt; }
-    /// A float is as short as it can be and still be read as the same number; a long text is cut, and ends in "…".
+    /// A float is as short as it can be and still be read as the same number, even by way of a double; a long text is
+    /// cut, and ends in "…".
     static QString text(const QVariant &value);
 
 private:

@@ -1,13 +1,13 @@
 #include "TrafficView.h"
 
 #include "TrafficModel.h"
+#include "WholeFile.h"
 
 #include <QCheckBox>
 #include <QDateTime>
 #include <QFileDialog>
 #include <QMessageBox>
 #include <QPushButton>
-#include <QSaveFile>
 #include <QScrollBar>
 #include <QSortFilterProxyModel>
 #include <QTableView>
@@ -99,9 +99,8 @@ void TrafficView::save()
 {
     const QString name = QFileDialog::getSaveFileName(this, tr("Save traffic"), QStringLiteral("traffic.csv"),
                                                       tr("CSV files (*.csv)"));
-    QSaveFile file(name);
-    // Flushed first: a full disk does not stop commit().
-    if (!name.isEmpty() && (!file.open(QIODevice::WriteOnly) || file.write(csv()) < 0 || !file.flush() || !file.commit())) {
-        QMessageBox::critical(this, tr("Save traffic"), tr("%1 cannot be written: %2").arg(name, file.errorString()));
+    const QString error = name.isEmpty() ? QString() : WholeFile::write(name, csv());
+    if (!error.isEmpty()) {
+        QMessageBox::critical(this, tr("Save traffic"), tr("%1 cannot be written: %2").arg(name, error));
     }
 }

@@ -2,13 +2,14 @@
 #include "Options.h"
 #include "SettingsApplier.h"
 #include "SettingsFile.h"
+#include "WholeFile.h"
 
 #include "devices/GenicamDevice.h"
 
 #include <QApplication>
+#include <QBuffer>
 #include <QDir>
 #include <QLoggingCategory>
-#include <QSaveFile>
 
 #include <algorithm>
 #include <cstdio>
@@ -76,8 +77,7 @@ int saveSettings(GenicamDevice &camera, const QString &fileName)
 int work(const Options &options)
 {
     QString error;
-    const auto camera = options.device.isEmpty() ? GenicamDevice::openBuiltIn(options.description, &error)
-                                                 : GenicamDevice::openNetwork(options.device, &error);
+    const auto camera = GenicamDevice::open(options.device, options.description, &error);
     if (camera) {
         error = setNodes(*camera, options);
     }
@@ -103,20 +103,17 @@ QString prepare(const MainWindow &window, const Options &options)
 
 int render(MainWindow &window, const QString &name)
 {
-    QSaveFile file(name); // leaves nothing behind that is not complete
-    if (file.open(QIODevice::WriteOnly)) {
-        window.show();
-        for (int i = 0; i < 2; ++i) { // once more, when the layout has followed
-            QCoreApplication::processEvents();
-            window.fitToPanel();
-        }
+    window.show();
+    for (int i = 0; i < 2; ++i) { // once more, when the layout has followed
         QCoreApplication::processEvents();
-        // Flushed first: a full disk does not stop commit().
-        if (window.grab().save(&file, "PNG") && file.flush() && file.commit()) {
-            return 0;
-        }
+        window.fitToPanel();
     }
-    return Options::complain(QStringLiteral("cannot write %1: %2").arg(name, file.errorString()));
+    QCoreApplication::processEvents();
+    QByteArray picture;
+    QBuffer buffer(&picture);
+    const QString error = window.grab().save(&buffer, "PNG") ? WholeFile::write(name, picture)
+                                                             : QStringLiteral("no picture could be made");
+    return error.isEmpty() ? 0 : Options::complain(QStringLiteral("cannot write %1: %2").arg(name, error));
 }
 
 } // namespace
