@@ -1,7 +1,7 @@
 # What every target of ours has in common. Nothing of it reaches the projects that embed us.
 
 if(VYTRIGGER_SANITIZE)
-  set(vy_sanitizers -fsanitize=address,undefined -fno-sanitize-recover=all -fno-omit-frame-pointer)
+  set(vy_sanitizers "-fsanitize=${VYTRIGGER_SANITIZE}" -fno-sanitize-recover=all -fno-omit-frame-pointer)
 endif()
 
 function(vy_target target)
