@@ -3,6 +3,9 @@
 if(VYTRIGGER_SANITIZE)
   set(vy_sanitizers "-fsanitize=${VYTRIGGER_SANITIZE}" -fno-sanitize-recover=all -fno-omit-frame-pointer)
 endif()
+if(VYTRIGGER_FUZZ) # all of ours tells the fuzzer where it went; only the targets have its main()
+  list(APPEND vy_sanitizers -fsanitize=fuzzer-no-link)
+endif()
 
 function(vy_target target)
   set_target_properties(${target} PROPERTIES

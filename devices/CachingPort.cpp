@@ -46,6 +46,10 @@ bool CachingPort::read(quint64 address, void *bytes, quint32 size, QString *erro
         *error = QStringLiteral("offline");
         return false;
     }
+    if (address + size < address) { // no memory is there, and what follows would take it for the first one
+        *error = QStringLiteral("no memory at 0x%1").arg(address, 0, 16);
+        return false;
+    }
     if (!m_caching) {
         return m_far->read(address, bytes, size, error);
     }

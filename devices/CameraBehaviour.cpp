@@ -17,22 +17,16 @@ CameraBehaviour::CameraBehaviour(CameraMemory &memory, const Registers &register
 void CameraBehaviour::update()
 {
     countOwnTriggers(); // first: with the settings that were in force until now
-    if (takeCommand(m_registers.acquisitionStart)) {
+    carryOut(m_registers.acquisitionStart, [this] {
         setValue(m_registers.acquisitionStatus, 1);
         m_counted = m_clock();
-    }
-    if (takeCommand(m_registers.acquisitionStop)) {
-        setValue(m_registers.acquisitionStatus, 0);
-    }
-    if (takeCommand(m_registers.softwareTrigger)) {
+    });
+    carryOut(m_registers.acquisitionStop, [this] { setValue(m_registers.acquisitionStatus, 0); });
+    carryOut(m_registers.softwareTrigger, [this] {
         setValue(m_registers.triggerCount, value(m_registers.triggerCount) + 1);
-    }
-    if (takeCommand(m_registers.userSetSave)) {
-        saveUserSet();
-    }
-    if (takeCommand(m_registers.userSetLoad)) {
-        loadUserSet();
-    }
+    });
+    carryOut(m_registers.userSetSave, [this] { saveUserSet(); });
+    carryOut(m_registers.userSetLoad, [this] { loadUserSet(); });
 }
 
 quint32 CameraBehaviour::value(quint64 address) const
@@ -48,14 +42,13 @@ void CameraBehaviour::setValue(quint64 address, quint32 value)
     m_memory.write(address, &bytes, sizeof bytes);
 }
 
-/// Whether the command was given. It shows as done at once.
-bool CameraBehaviour::takeCommand(quint64 address)
+/// Does what a command asks for, if it was given. Only then it shows as done: a server's clients look at any moment.
+void CameraBehaviour::carryOut(quint64 command, const std::function<void()> &act)
 {
-    if (value(address) == 0) {
-        return false;
+    if (value(command) != 0) {
+        act();
+        setValue(command, 0);
     }
-    setValue(address, 0);
-    return true;
 }
 
 /// In milliseconds; 0 while the camera does not trigger itself.

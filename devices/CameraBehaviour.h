@@ -46,7 +46,7 @@ public:
 private:
     quint32 value(quint64 address) const;
     void setValue(quint64 address, quint32 value);
-    bool takeCommand(quint64 address);
+    void carryOut(quint64 command, const std::function<void()> &act);
     quint32 ownTriggerInterval() const;
     void countOwnTriggers();
     void saveUserSet();

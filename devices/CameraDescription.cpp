@@ -3,8 +3,12 @@
 #include <QFile>
 #include <QFileInfo>
 #include <QHash>
+#include <QRegularExpression>
 #include <QStringList>
 #include <QXmlStreamReader>
+#include <QXmlStreamWriter>
+
+#include <algorithm>
 
 namespace {
 
@@ -25,6 +29,21 @@ bool isValueReference(const QString &element)
     return false;
 }
 
+/// Of an element or an attribute of GenICam. Other ones may be spelled as not every XML parser takes them.
+bool isName(const QString &text)
+{
+    static const QRegularExpression form(QStringLiteral("^[A-Za-z]\\w*\\z"));
+    return form.match(text).hasMatch();
+}
+
+/// QXmlStreamReader takes more for a text.
+bool isText(const QString &text)
+{
+    return text.isValidUtf16() && std::none_of(text.begin(), text.end(), [](QChar c) {
+        return c.unicode() > 0xfffd || (c.unicode() < 0x20 && !QStringLiteral("\t\n\r").contains(c));
+    });
+}
+
 /// What a node cannot work without: Aravis takes it for given.
 constexpr char kRegisters[] = "IntReg MaskedIntReg FloatReg StringReg StructReg Register";
 constexpr struct { const char *kinds; const char *need; const char *orElse; } kNeeds[] = {
@@ -38,11 +57,27 @@ constexpr struct { const char *kinds; const char *need; const char *orElse; } kN
     {"IntSwissKnife SwissKnife", "Formula", "Formula"},
 };
 
+/// The nodes that Aravis knows, and what may name other ones. Elsewhere it looks for such a node without end.
+constexpr char kKinds[] = "Integer IntReg MaskedIntReg IntConverter IntSwissKnife Float FloatReg Converter SwissKnife "
+                          "Boolean Enumeration Command String StringReg Register StructReg StructEntry Category Port";
+constexpr char kLists[] = "pFeature pSelected pInvalidator";
+
+/// And what Aravis does not expect elsewhere.
+constexpr struct { const char *element; const char *parents; } kPlaces[] = {
+    {"StructEntry", "StructReg"},
+    {"SwissKnife", "RegisterDescription Group"}, // in a register it would be an address that is no integer
+};
+
+bool isOneOf(const char *words, const QString &word)
+{
+    return QString::fromLatin1(words).split(QLatin1Char(' ')).contains(word);
+}
+
 class Parser
 {
 public:
     explicit Parser(CameraDescription &description, const QByteArray &xml)
-        : m_description(description), m_reader(xml) {}
+        : m_description(description), m_reader(xml), m_writer(&description.xml) {}
 
     QString parse()
     {
@@ -102,10 +137,15 @@ private:
             outer = m_open.last().node;
             m_open.last().children.append(element.toString());
         }
+        copyStart(element.toString());
         const QStringRef name = m_reader.attributes().value(QLatin1String("Name"));
         // The Name of a variable is the one it has in the formula.
-        const bool isNode = !name.isEmpty() && element != QLatin1String("pVariable")
-            && element != QLatin1String("Constant") && element != QLatin1String("Expression");
+        const bool isOfFormula = element == QLatin1String("pVariable") || element == QLatin1String("Constant")
+            || element == QLatin1String("Expression");
+        const bool isNode = !name.isEmpty() && !isOfFormula;
+        if (isOfFormula && name.isEmpty()) {
+            m_error = QStringLiteral("%1 has a %2 without a name").arg(outer, element.toString());
+        }
         m_open.append({isNode ? name.toString() : outer, {}});
         if (isNode && element != QLatin1String("EnumEntry")) {
             m_kinds.insert(name.toString(), element.toString());
@@ -116,11 +156,32 @@ private:
         m_text.clear();
     }
 
+    void copyStart(const QString &element)
+    {
+        m_writer.writeStartElement(element);
+        bool isFit = isName(element);
+        const QXmlStreamAttributes attributes = m_reader.attributes();
+        for (const QXmlStreamAttribute &attribute : attributes) {
+            if (attribute.prefix().isEmpty() && isName(attribute.name().toString())) {
+                m_writer.writeAttribute(attribute.name().toString(), attribute.value().toString());
+                isFit = isFit && isText(attribute.value().toString());
+            }
+        }
+        if (!isFit) {
+            m_error = QStringLiteral("it has a name that is none");
+        }
+    }
+
     void end()
     {
         const Element closed = m_open.takeLast();
         const QString element = m_reader.name().toString();
-        const QString text = m_text.trimmed();
+        const QString text = closed.children.isEmpty() ? m_text.trimmed() : QString(); // between elements it means nothing
+        m_writer.writeCharacters(text);
+        m_writer.writeEndElement();
+        if (!isText(text)) {
+            m_error = QStringLiteral("%1 has a text that is none").arg(closed.node);
+        }
         if (element == QLatin1String("PowerUp")) {
             m_description.powerUp.append({closed.node.toUtf8(), m_text.toUtf8()});
         } else if (element == QLatin1String("Length")) {
@@ -135,10 +196,15 @@ private:
             }
         }
         for (const auto &needs : kNeeds) {
-            if (QString::fromLatin1(needs.kinds).split(QLatin1Char(' ')).contains(element)
+            if (isOneOf(needs.kinds, element)
                 && !closed.children.contains(QLatin1String(needs.need))
                 && !closed.children.contains(QLatin1String(needs.orElse))) {
                 m_error = QStringLiteral("%1 has no %2").arg(closed.node, QLatin1String(needs.need));
+            }
+        }
+        for (const auto &place : kPlaces) {
+            if (closed.children.contains(QLatin1String(place.element)) && !isOneOf(place.parents, element)) {
+                m_error = QStringLiteral("a %1 stands in %2").arg(QLatin1String(place.element), element);
             }
         }
         m_text.clear();
@@ -152,6 +218,12 @@ private:
         for (const Reference &reference : qAsConst(m_references)) {
             if (!m_kinds.contains(reference.to)) {
                 return QStringLiteral("%1 refers to %2, which it does not have").arg(reference.from, reference.to);
+            }
+            if (!isOneOf(kKinds, m_kinds.value(reference.to)) && !isOneOf(kLists, reference.element)) {
+                return QStringLiteral("%1 refers to %2, of a kind that is not known").arg(reference.from, reference.to);
+            }
+            if (reference.element == QLatin1String("pLength") && m_kinds.value(reference.from) != QLatin1String("Register")) {
+                return QStringLiteral("%1 has no length of its own").arg(reference.from); // which may become any
             }
             if (reference.element == QLatin1String("pPort") && m_kinds.value(reference.to) != QLatin1String("Port")) {
                 return QStringLiteral("%1 takes %2 for a port").arg(reference.from, reference.to);
@@ -190,6 +262,7 @@ private:
 
     CameraDescription &m_description;
     QXmlStreamReader m_reader;
+    QXmlStreamWriter m_writer;
     QString m_error;
     QString m_text;
     QVector<Element> m_open;
@@ -229,7 +302,7 @@ QByteArray CameraDescription::read(const QString &name, QString *error)
     return bytes;
 }
 
-QString CameraDescription::parse(const QByteArray &xml)
+QString CameraDescription::parse(const QByteArray &text)
 {
-    return Parser(*this, xml).parse();
+    return Parser(*this, text).parse();
 }

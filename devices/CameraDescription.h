@@ -8,6 +8,8 @@
 /// What we have to know about a GenICam description before Aravis may work with it.
 struct CameraDescription
 {
+    /// What was checked, and nothing else, spelled so that every XML parser reads the same.
+    QByteArray xml;
     /// What the nodes hold when the camera is switched on, in the description's order.
     QVector<QPair<QByteArray, QByteArray>> powerUp;
 
@@ -18,6 +20,6 @@ struct CameraDescription
 
     /// Checks the description and collects its power-up values. Aravis takes text that stops half-way for a
     /// smaller description, and follows references without end or into nothing; such a one is refused
-    /// here. Returns an empty text, or what is wrong in one line.
-    QString parse(const QByteArray &xml);
+    /// here, and Aravis is given `xml`. Returns an empty text, or what is wrong in one line.
+    QString parse(const QByteArray &text);
 };

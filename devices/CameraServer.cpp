@@ -1,15 +1,15 @@
-#include <arv.h> // before Qt
+#include "Failure.h" // before Qt
 
 #include "CameraServer.h"
 
 #include "CameraDescription.h"
+#include "NetworkLink.h"
 #include "SimulatedCamera.h"
 
 #include <QTemporaryFile>
 
 namespace {
 
-constexpr quint16 kControlPort = 3956; // GigE Vision's
 constexpr quint64 kSerialRegister = 0xd8; // GigE Vision's
 constexpr int kSerialSize = 16;
 
@@ -34,56 +34,40 @@ private:
 /// Why the address cannot be served, or empty: nothing that follows would tell.
 QString checkAddress(GInetAddress *address)
 {
-    GError *failure = nullptr;
-    GSocket *socket = g_socket_new(G_SOCKET_FAMILY_IPV4, G_SOCKET_TYPE_DATAGRAM, G_SOCKET_PROTOCOL_UDP, &failure);
-    GSocketAddress *local = g_inet_socket_address_new(address, kControlPort);
-    QString error;
-    if (!socket || !g_socket_bind(socket, local, FALSE, &failure)) {
-        error = QString::fromUtf8(failure->message);
-        g_error_free(failure);
-    }
-    g_object_unref(local);
-    g_clear_object(&socket);
-    return error;
+    Failure failure;
+    const Reference<GSocket> socket(g_socket_new(G_SOCKET_FAMILY_IPV4, G_SOCKET_TYPE_DATAGRAM, G_SOCKET_PROTOCOL_UDP, failure.slot()));
+    const Reference<GSocketAddress> local(g_inet_socket_address_new(address, NetworkLink::kControlPort));
+    return socket && g_socket_bind(socket.get(), local.get(), FALSE, failure.slot()) ? QString() : failure.text();
 }
 
 /// Whether it is this camera that answers.
 QString checkAnswer(GInetAddress *address, const QByteArray &serial)
 {
-    GError *failure = nullptr;
-    DevicePointer client(arv_gv_device_new(address, address, &failure));
+    Failure failure;
+    const DevicePointer client(arv_gv_device_new(address, address, failure.slot()));
     char answer[kSerialSize + 1] = {};
-    if (client && arv_device_read_memory(client.get(), kSerialRegister, kSerialSize, answer, &failure)) {
+    if (client && arv_device_read_memory(client.get(), kSerialRegister, kSerialSize, answer, failure.slot())) {
         return serial == answer ? QString() : QStringLiteral("another camera answers there");
     }
-    const QString error = QString::fromUtf8(failure->message);
-    g_error_free(failure);
-    return QStringLiteral("the camera does not answer (%1)").arg(error);
+    return QStringLiteral("the camera does not answer (%1)").arg(failure.text());
 }
 
 } // namespace
 
 struct CameraServer::Private
 {
-    ~Private()
-    {
-        camera.device.reset(); // before the memory that it works on
-        g_clear_object(&server);
-        g_clear_object(&address);
-    }
-
     QString start(const Settings &settings);
 
     QTemporaryFile description;
-    GInetAddress *address = nullptr;
-    ArvGvFakeCamera *server = nullptr;
-    SimulatedCamera camera = {};
+    Reference<GInetAddress> address;
+    Reference<ArvGvFakeCamera> server;
+    SimulatedCamera camera = {}; // goes before the server, in whose memory it works
 };
 
 QString CameraServer::Private::start(const Settings &settings)
 {
-    address = g_inet_address_new_from_string(settings.address.toUtf8().constData());
-    if (!address || g_inet_address_get_family(address) != G_SOCKET_FAMILY_IPV4) {
+    address.reset(g_inet_address_new_from_string(settings.address.toUtf8().constData()));
+    if (!address || g_inet_address_get_family(address.get()) != G_SOCKET_FAMILY_IPV4) {
         return QStringLiteral("'%1' is not an IPv4 address").arg(settings.address);
     }
     QString error;
@@ -94,23 +78,23 @@ QString CameraServer::Private::start(const Settings &settings)
     if (!description.open() || description.write(xml) != xml.size() || !description.flush()) {
         return description.errorString();
     }
-    error = checkAddress(address);
+    error = checkAddress(address.get());
     if (!error.isEmpty()) {
-        return QStringLiteral("%1, port %2: %3").arg(settings.address).arg(kControlPort).arg(error);
+        return QStringLiteral("%1, port %2: %3").arg(settings.address).arg(NetworkLink::kControlPort).arg(error);
     }
-    server = arv_gv_fake_camera_new_full(settings.address.toUtf8().constData(), nullptr,
-                                         description.fileName().toUtf8().constData());
-    if (!arv_gv_fake_camera_is_running(server)) {
+    server.reset(arv_gv_fake_camera_new_full(settings.address.toUtf8().constData(), nullptr,
+                                             description.fileName().toUtf8().constData()));
+    if (!arv_gv_fake_camera_is_running(server.get())) {
         return QStringLiteral("%1 is on none of this machine's network interfaces").arg(settings.address);
     }
-    auto memory = std::make_unique<Memory>(arv_gv_fake_camera_get_fake_camera(server));
+    auto memory = std::make_unique<Memory>(arv_gv_fake_camera_get_fake_camera(server.get()));
     camera = SimulatedCamera::switchOn(std::move(memory), xml, settings.serial, {}, &error);
     if (!error.isEmpty()) {
         return QStringLiteral("%1: %2").arg(CameraDescription::fileName(settings.description), error.simplified());
     }
     char serial[kSerialSize + 1] = {};
     arv_device_read_memory(camera.device.get(), kSerialRegister, kSerialSize, serial, nullptr);
-    error = checkAnswer(address, serial);
+    error = checkAnswer(address.get(), serial);
     return error.isEmpty() ? QString() : QStringLiteral("%1: %2").arg(settings.address, error);
 }
 

@@ -1,4 +1,4 @@
-#include <arv.h> // before Qt
+#include "Failure.h" // before Qt
 
 #include "GenicamDevice.h"
 
@@ -17,35 +17,6 @@
 namespace {
 
 constexpr int kCommandTime = 512; // milliseconds; a command that takes longer is not waited for
-
-/// An error as Aravis reports it, freed by itself.
-struct Failure
-{
-    Failure() = default;
-    ~Failure() { clear(); }
-    Q_DISABLE_COPY(Failure)
-
-    GError **slot()
-    {
-        clear();
-        return &error;
-    }
-    void clear() { g_clear_error(&error); }
-    explicit operator bool() const { return error; }
-    bool isRule() const { return error && error->domain == ARV_GC_ERROR; }
-    bool isAbsence() const { return isRule() && error->code == ARV_GC_ERROR_PROPERTY_NOT_DEFINED; }
-    /// Without the names of the nodes, in brackets, that it came through: ours is said anyway.
-    QString text() const
-    {
-        QString text = error ? QString::fromUtf8(error->message) : QString();
-        while (text.startsWith(QLatin1Char('[')) && text.contains(QLatin1String("] "))) {
-            text.remove(0, text.indexOf(QLatin1String("] ")) + 2);
-        }
-        return text;
-    }
-
-    GError *error = nullptr;
-};
 
 RuvoNodeType typeOf(ArvGcNode *node)
 {
@@ -342,12 +313,19 @@ std::unique_ptr<GenicamDevice> GenicamDevice::openBuiltIn(const QString &descrip
 {
     QString why;
     const QByteArray description = CameraDescription::read(descriptionFile, &why);
-    DevicePointer camera = why.isEmpty() ? newBuiltInCamera(description, std::move(clock), &why) : nullptr;
+    auto camera = why.isEmpty() ? openDescription(description, &why, std::move(clock)) : nullptr;
     if (!camera) {
-        *error = QStringLiteral("%1: %2").arg(CameraDescription::fileName(descriptionFile), why.simplified());
-        return nullptr;
+        *error = QStringLiteral("%1: %2").arg(CameraDescription::fileName(descriptionFile), why);
     }
-    return std::unique_ptr<GenicamDevice>(new GenicamDevice(std::make_unique<Private>(std::move(camera))));
+    return camera;
+}
+
+std::unique_ptr<GenicamDevice> GenicamDevice::openDescription(const QByteArray &description, QString *error,
+                                                              Clock clock)
+{
+    DevicePointer camera = newBuiltInCamera(description, std::move(clock), error);
+    *error = error->simplified();
+    return camera ? std::unique_ptr<GenicamDevice>(new GenicamDevice(std::make_unique<Private>(std::move(camera)))) : nullptr;
 }
 
 std::unique_ptr<GenicamDevice> GenicamDevice::openNetwork(const QString &address, QString *error)
@@ -355,27 +333,31 @@ std::unique_ptr<GenicamDevice> GenicamDevice::openNetwork(const QString &address
     QString why;
     std::unique_ptr<NetworkLink> link = NetworkLink::open(address, &why);
     NetworkLink *const wire = link.get();
-    CachingPort *port = nullptr;
-    DevicePointer device;
-    if (link) {
-        const QByteArray xml = link->description();
-        CameraDescription description;
-        why = description.parse(xml);
-        auto owned = std::make_unique<CachingPort>(std::move(link));
-        port = owned.get();
-        device = why.isEmpty() ? newPortDevice(std::move(owned), xml) : nullptr;
+    auto camera = wire ? openPort(std::move(link), wire->description(), &why, wire) : nullptr;
+    if (!camera) {
+        *error = QStringLiteral("%1: %2").arg(address, why.simplified());
     }
+    return camera;
+}
+
+std::unique_ptr<GenicamDevice> GenicamDevice::openPort(std::unique_ptr<RegisterPort> port, const QByteArray &xml,
+                                                       QString *error, NetworkLink *link)
+{
+    CameraDescription description;
+    *error = description.parse(xml).simplified();
+    auto owned = std::make_unique<CachingPort>(std::move(port));
+    CachingPort *const cache = owned.get();
+    DevicePointer device = error->isEmpty() ? newPortDevice(std::move(owned), description.xml) : nullptr;
     if (!device) {
-        *error = QStringLiteral("%1: %2").arg(address, why.isEmpty() ? tr("it does not describe itself")
-                                                                     : why.simplified());
+        *error = error->isEmpty() ? tr("it does not describe itself") : *error;
         return nullptr;
     }
     QVector<CachingPort::Extent> cachable;
-    port->setOffline(true); // an address that is found all the same is found without the camera
+    cache->setOffline(true); // an address that is found all the same is found without the camera
     collectCachable(ARV_DOM_NODE(arv_device_get_genicam(device.get())), cachable);
-    port->setOffline(false);
-    port->setCachable(std::move(cachable));
-    return std::unique_ptr<GenicamDevice>(new GenicamDevice(std::make_unique<Private>(std::move(device), wire, port)));
+    cache->setOffline(false);
+    cache->setCachable(std::move(cachable));
+    return std::unique_ptr<GenicamDevice>(new GenicamDevice(std::make_unique<Private>(std::move(device), link, cache)));
 }
 
 std::unique_ptr<GenicamDevice> GenicamDevice::open(const QString &address, const QString &descriptionFile, QString *error)
@@ -493,7 +475,7 @@ long GenicamDevice::getParamFloat(const QString &name, float &value, float &min,
     value = toFloat(current);
     min = toFloat(minimum);
     max = toFloat(maximum);
-    inc = toFloat(hasIncrement ? increment : stepFor(minimum, maximum));
+    inc = qMax(toFloat(hasIncrement ? increment : stepFor(minimum, maximum)), std::numeric_limits<float>::min());
     return status;
 }
 

@@ -8,6 +8,9 @@
 #include <functional>
 #include <memory>
 
+class NetworkLink;
+class RegisterPort;
+
 /// A GenICam device, or its simulation inside this process, as the host sees it.
 ///
 /// Beyond what Device promises, every call first looks at the node's access mode: what is not readable is not
@@ -33,11 +36,18 @@ public:
     /// cannot be used.
     static std::unique_ptr<GenicamDevice> openBuiltIn(const QString &descriptionFile, QString *error,
                                                       Clock clock = {});
+    static std::unique_ptr<GenicamDevice> openDescription(const QByteArray &description, QString *error,
+                                                          Clock clock = {});
 
     /// The GigE Vision camera at an IPv4 address. Takes control of it, unless somebody else has it: then it can
     /// only be read. Blocks, some five seconds when nothing answers: not for the GUI thread. The result may be
     /// handed to another thread. Returns null, and the reason in one line, when it cannot be opened.
     static std::unique_ptr<GenicamDevice> openNetwork(const QString &address, QString *error);
+
+    /// A camera anywhere, of which there are the description and a port to its registers. `link` is that port
+    /// where it is a network.
+    static std::unique_ptr<GenicamDevice> openPort(std::unique_ptr<RegisterPort> port, const QByteArray &description,
+                                                   QString *error, NetworkLink *link = nullptr);
 
     /// The one at an address or, where that is empty, the simulated one.
     static std::unique_ptr<GenicamDevice> open(const QString &address, const QString &descriptionFile, QString *error);

@@ -1,4 +1,4 @@
-#include <arv.h> // before Qt
+#include "Failure.h" // before Qt
 
 #include "NetworkLink.h"
 
@@ -16,30 +16,16 @@
 namespace {
 
 constexpr std::chrono::milliseconds kTimeout(2000); // for one request, with its repetitions
-constexpr quint16 kControlPort = 3956;              // GigE Vision's
 constexpr quint32 kRequestSize = 512;               // bytes that one packet carries
-
-template <typename T>
-struct Reference : std::unique_ptr<T, decltype(&g_object_unref)>
-{
-    explicit Reference(T *object) : std::unique_ptr<T, decltype(&g_object_unref)>(object, &g_object_unref) {}
-};
-
-QString take(GError *error)
-{
-    QString text = error ? QString::fromUtf8(error->message) : QStringLiteral("?");
-    g_clear_error(&error);
-    return text;
-}
 
 /// The cameras that are being released. Until that is done they are reserved: who opens one again waits for it, and
 /// so does the end of the process.
 class Releases
 {
 public:
-    void begin(const QString &address) { add(address, 1); }
-    void end(const QString &address) { add(address, -1); }
-    void wait(const QString &address)
+    void begin(const QByteArray &address) { add(address, 1); }
+    void end(const QByteArray &address) { add(address, -1); }
+    void wait(const QByteArray &address)
     {
         std::unique_lock<std::mutex> lock(m_mutex);
         m_changed.wait(lock, [this, &address] { return !m_counts.contains(address); });
@@ -51,7 +37,7 @@ public:
     }
 
 private:
-    void add(const QString &address, int change)
+    void add(const QByteArray &address, int change)
     {
         const std::lock_guard<std::mutex> lock(m_mutex);
         if ((m_counts[address] += change) == 0) {
@@ -62,7 +48,7 @@ private:
 
     std::mutex m_mutex;
     std::condition_variable m_changed;
-    QHash<QString, int> m_counts;
+    QHash<QByteArray, int> m_counts;
 };
 
 Releases &releases()
@@ -75,7 +61,7 @@ Releases &releases()
 GInetAddress *localAddress(GInetAddress *remote, GError **error)
 {
     const Reference<GSocket> socket(g_socket_new(G_SOCKET_FAMILY_IPV4, G_SOCKET_TYPE_DATAGRAM, G_SOCKET_PROTOCOL_UDP, error));
-    const Reference<GSocketAddress> target(g_inet_socket_address_new(remote, kControlPort));
+    const Reference<GSocketAddress> target(g_inet_socket_address_new(remote, NetworkLink::kControlPort));
     if (!socket || !g_socket_connect(socket.get(), target.get(), nullptr, error)) {
         return nullptr;
     }
@@ -83,26 +69,22 @@ GInetAddress *localAddress(GInetAddress *remote, GError **error)
     return local ? G_INET_ADDRESS(g_object_ref(g_inet_socket_address_get_address(G_INET_SOCKET_ADDRESS(local.get())))) : nullptr;
 }
 
-DevicePointer openDevice(const QString &address, QString *error)
+DevicePointer openDevice(const QByteArray &address, QString *error)
 {
-    const Reference<GInetAddress> remote(g_inet_address_new_from_string(address.toUtf8().constData()));
+    const Reference<GInetAddress> remote(g_inet_address_new_from_string(address.constData()));
     if (!remote || g_inet_address_get_family(remote.get()) != G_SOCKET_FAMILY_IPV4
         || g_inet_address_get_is_any(remote.get()) || g_inet_address_get_is_multicast(remote.get())) {
         *error = NetworkLink::tr("it is not the IPv4 address of a camera, such as 192.168.0.10");
         return nullptr;
     }
-    GError *failure = nullptr;
-    const Reference<GInetAddress> local(localAddress(remote.get(), &failure));
-    ArvDevice *const device = local ? arv_gv_device_new(local.get(), remote.get(), &failure) : nullptr;
-    if (device) {
-        return DevicePointer(device);
+    Failure failure;
+    const Reference<GInetAddress> local(localAddress(remote.get(), failure.slot()));
+    DevicePointer device(local ? arv_gv_device_new(local.get(), remote.get(), failure.slot()) : nullptr);
+    if (!device) {
+        const bool isSilent = failure.is(ARV_DEVICE_ERROR, ARV_DEVICE_ERROR_TIMEOUT);
+        *error = isSilent ? NetworkLink::tr("no camera answers") : failure.text();
     }
-    const bool silent = failure && failure->domain == ARV_DEVICE_ERROR && failure->code == ARV_DEVICE_ERROR_TIMEOUT;
-    *error = take(failure);
-    if (silent) {
-        *error = NetworkLink::tr("no camera answers");
-    }
-    return nullptr;
+    return device;
 }
 
 } // namespace
@@ -118,7 +100,7 @@ struct NetworkLink::Shared
         QString error;
     };
 
-    explicit Shared(QString of) : address(std::move(of)) {}
+    explicit Shared(QByteArray of) : address(std::move(of)) {}
 
     void run();
     bool open(DevicePointer &device);
@@ -126,7 +108,7 @@ struct NetworkLink::Shared
     void lose(const QString &reason);
     void release();
 
-    const QString address;
+    const QByteArray address;
     std::mutex mutex; // for all that follows
     std::condition_variable changed;
     enum { Opening, Open, Failed, Releasing } state = Opening;
@@ -196,17 +178,16 @@ void NetworkLink::Shared::run()
 /// Whether the camera answered, if only with a refusal.
 bool NetworkLink::Shared::serve(ArvDevice *device, Request &request)
 {
-    GError *failure = nullptr;
+    Failure failure;
     const auto size = quint32(request.bytes.size());
-    const bool ok = request.isWrite ? arv_device_write_memory(device, request.address, size, request.bytes.data(), &failure)
-                                    : arv_device_read_memory(device, request.address, size, request.bytes.data(), &failure);
+    const bool ok = request.isWrite ? arv_device_write_memory(device, request.address, size, request.bytes.data(), failure.slot())
+                                    : arv_device_read_memory(device, request.address, size, request.bytes.data(), failure.slot());
     if (ok) {
         return true;
     }
-    const bool answered = failure && failure->domain == ARV_DEVICE_ERROR && failure->code != ARV_DEVICE_ERROR_TIMEOUT
-        && failure->code != ARV_DEVICE_ERROR_NOT_CONNECTED; // else it may be the network that says no
-    request.error = take(failure);
-    return answered;
+    request.error = failure.text();
+    return failure && failure.error->domain == ARV_DEVICE_ERROR && !failure.is(ARV_DEVICE_ERROR, ARV_DEVICE_ERROR_TIMEOUT)
+        && !failure.is(ARV_DEVICE_ERROR, ARV_DEVICE_ERROR_NOT_CONNECTED); // else it may be the network that says no
 }
 
 void NetworkLink::Shared::lose(const QString &reason)
@@ -234,8 +215,8 @@ void NetworkLink::Shared::release()
 
 std::unique_ptr<NetworkLink> NetworkLink::open(const QString &address, QString *error)
 {
-    releases().wait(address);
-    const auto shared = std::make_shared<Shared>(address);
+    const auto shared = std::make_shared<Shared>(address.toUtf8());
+    releases().wait(shared->address);
     std::thread([shared] { shared->run(); }).detach();
     std::unique_lock<std::mutex> lock(shared->mutex);
     shared->changed.wait(lock, [&shared] { return shared->state != Shared::Opening; });
@@ -304,10 +285,10 @@ bool NetworkLink::write(quint64 address, const void *bytes, quint32 size, QStrin
 
 bool NetworkLink::request(quint64 address, QByteArray &bytes, bool isWrite, QString *error)
 {
-    const auto request = std::make_shared<Shared::Request>(Shared::Request{address, bytes, isWrite, false, {}});
+    const auto request = std::make_shared<Shared::Request>(Shared::Request{address, std::move(bytes), isWrite, false, {}});
     std::unique_lock<std::mutex> lock(m_shared->mutex);
     if (m_shared->lost.isEmpty()) {
-        m_requests += (quint32(bytes.size()) + kRequestSize - 1) / kRequestSize;
+        m_requests += (quint32(request->bytes.size()) + kRequestSize - 1) / kRequestSize;
         m_shared->queue.push_back(request);
         m_shared->changed.notify_all();
         const bool inTime = m_shared->changed.wait_for(lock, kTimeout, [this, &request] {
@@ -323,6 +304,6 @@ bool NetworkLink::request(quint64 address, QByteArray &bytes, bool isWrite, QStr
         *error = m_shared->lost.isEmpty() ? request->error : m_shared->lost;
         return false;
     }
-    bytes = request->bytes;
+    bytes = std::move(request->bytes);
     return true;
 }

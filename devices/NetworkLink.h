@@ -18,6 +18,8 @@ class NetworkLink final : public RegisterPort
 {
     Q_DECLARE_TR_FUNCTIONS(NetworkLink)
 public:
+    static constexpr quint16 kControlPort = 3956; ///< of every such camera
+
     /// Takes control of the camera at an IPv4 address, unless somebody else has it. Waits up to some five seconds
     /// for it, and as long again where the same camera is just being released. Null and the reason when it cannot
     /// be opened.

@@ -8,7 +8,7 @@ struct Contents
 {
     const QByteArray xml;
     const std::unique_ptr<RegisterPort> port;
-    ArvGc *genicam;
+    Reference<ArvGc> genicam; // goes first: it reads the text and the port
 };
 
 } // namespace
@@ -62,7 +62,7 @@ gboolean writeRegister(ArvDevice *device, guint64 address, guint32 value, GError
 
 ArvGc *genicam(ArvDevice *device)
 {
-    return contentsOf(device).genicam;
+    return contentsOf(device).genicam.get();
 }
 
 const char *genicamXml(ArvDevice *device, size_t *size)
@@ -73,9 +73,7 @@ const char *genicamXml(ArvDevice *device, size_t *size)
 
 void finalize(GObject *object)
 {
-    Contents *const contents = static_cast<VyPortDevice *>(static_cast<gpointer>(object))->contents;
-    g_clear_object(&contents->genicam);
-    delete contents;
+    delete static_cast<VyPortDevice *>(static_cast<gpointer>(object))->contents;
     G_OBJECT_CLASS(vy_port_device_parent_class)->finalize(object);
 }
 
@@ -96,9 +94,9 @@ static void vy_port_device_class_init(VyPortDeviceClass *type)
     type->parent.get_genicam_xml = genicamXml;
 }
 
-void DeviceDeleter::operator()(ArvDevice *device) const
+void ReferenceDeleter::operator()(void *object) const
 {
-    g_object_unref(device);
+    g_object_unref(object);
 }
 
 DevicePointer newPortDevice(std::unique_ptr<RegisterPort> port, const QByteArray &description)
@@ -106,6 +104,6 @@ DevicePointer newPortDevice(std::unique_ptr<RegisterPort> port, const QByteArray
     DevicePointer device(static_cast<ArvDevice *>(g_object_new(vy_port_device_get_type(), nullptr)));
     auto *const contents = new Contents{description, std::move(port), nullptr};
     static_cast<VyPortDevice *>(static_cast<gpointer>(device.get()))->contents = contents;
-    contents->genicam = arv_gc_new(device.get(), contents->xml.constData(), size_t(contents->xml.size()));
-    return ARV_IS_GC(contents->genicam) ? std::move(device) : nullptr;
+    contents->genicam.reset(arv_gc_new(device.get(), contents->xml.constData(), size_t(contents->xml.size())));
+    return ARV_IS_GC(contents->genicam.get()) ? std::move(device) : nullptr;
 }

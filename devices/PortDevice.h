@@ -8,9 +8,11 @@
 
 typedef struct _ArvDevice ArvDevice; // NOLINT(bugprone-reserved-identifier): the name is Aravis'
 
-struct DeviceDeleter { void operator()(ArvDevice *device) const; };
-/// One reference to a device.
-using DevicePointer = std::unique_ptr<ArvDevice, DeviceDeleter>;
+struct ReferenceDeleter { void operator()(void *object) const; };
+/// One reference to an object of GLib's.
+template <typename T>
+using Reference = std::unique_ptr<T, ReferenceDeleter>;
+using DevicePointer = Reference<ArvDevice>;
 
 /// A GenICam device on registers that are reached through a port, which it owns. Null when the text is no GenICam
 /// description.

@@ -1,4 +1,4 @@
-#include <arv.h> // before Qt
+#include "Failure.h" // before Qt
 
 #include "SimulatedCamera.h"
 
@@ -65,15 +65,14 @@ qint64 realTime()
 quint64 findRegister(ArvGc *gc, const char *name, quint32 size, QString *missing)
 {
     ArvGcNode *node = arv_gc_get_node(gc, name);
-    GError *failure = nullptr;
     if (ARV_IS_GC_REGISTER(node)) {
-        const quint64 address = arv_gc_register_get_address(ARV_GC_REGISTER(node), &failure);
-        const quint64 length = failure ? 0 : arv_gc_register_get_length(ARV_GC_REGISTER(node), &failure);
+        Failure failure;
+        const quint64 address = arv_gc_register_get_address(ARV_GC_REGISTER(node), failure.slot());
+        const quint64 length = failure ? 0 : arv_gc_register_get_length(ARV_GC_REGISTER(node), failure.slot());
         if (!failure && (!size || length == size) && CameraMemory::contains(address, length)) {
             return address;
         }
     }
-    g_clear_error(&failure);
     *missing = QStringLiteral("register %1").arg(QLatin1String(name));
     return 0;
 }
@@ -128,14 +127,9 @@ QString writePowerUpValue(ArvGc *gc, const QByteArray &name, const QByteArray &t
     if (!ARV_IS_GC_FEATURE_NODE(node)) {
         return QStringLiteral("%1 cannot have a power-up value").arg(QString::fromUtf8(name));
     }
-    GError *failure = nullptr;
-    arv_gc_feature_node_set_value_from_string(ARV_GC_FEATURE_NODE(node), text.constData(), &failure);
-    if (!failure) {
-        return QString();
-    }
-    QString error = QStringLiteral("the power-up value of %1: %2").arg(QString::fromUtf8(name), QString::fromUtf8(failure->message));
-    g_error_free(failure);
-    return error;
+    Failure failure;
+    arv_gc_feature_node_set_value_from_string(ARV_GC_FEATURE_NODE(node), text.constData(), failure.slot());
+    return failure ? QStringLiteral("the power-up value of %1: %2").arg(QString::fromUtf8(name), failure.text()) : QString();
 }
 
 } // namespace
@@ -153,7 +147,7 @@ SimulatedCamera SimulatedCamera::switchOn(std::unique_ptr<CameraMemory> memory, 
     }
     auto owned = std::make_unique<MemoryPort>(std::move(memory));
     MemoryPort &port = *owned;
-    DevicePointer device = newPortDevice(std::move(owned), xml);
+    DevicePointer device = newPortDevice(std::move(owned), description.xml);
     if (!device) {
         *error = QStringLiteral("it is no GenICam description");
         return {};

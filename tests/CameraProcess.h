@@ -36,6 +36,10 @@ public:
     {
         m_process.kill();
         m_process.waitForFinished();
+        const QByteArray said = m_process.readAllStandardError();
+        if (said.contains("Sanitizer")) { // which its status does not tell
+            qFatal("%s", said.constData());
+        }
     }
 
 private:

@@ -1,3 +1,4 @@
+#include "devices/CameraBehaviour.h"
 #include "devices/GenicamDevice.h"
 
 #include <QFile>
@@ -5,6 +6,7 @@
 #include <QTemporaryDir>
 #include <QTest>
 
+#include <cstring>
 #include <limits>
 
 namespace {
@@ -13,6 +15,15 @@ QString operator""_s(const char *text, std::size_t size)
 {
     return QString::fromUtf8(text, int(size));
 }
+
+/// A camera's memory where every command was given; it notes which registers are written.
+struct NotingMemory final : public CameraMemory
+{
+    void read(quint64, void *bytes, quint32 size) const override { std::memset(bytes, 1, size); }
+    void write(quint64 address, const void *, quint32) override { written.append(address); }
+
+    QVector<quint64> written;
+};
 
 /// The nodes by what makes them available: a source, a stop condition or a word of our own; and their types.
 const struct { const char *when, *prefix, *nodes; } kSections[] = {
@@ -97,6 +108,7 @@ private Q_SLOTS:
     void locksAndUserSets();
     void counting();
     void unusableDescriptions();
+    void commandsShowAsDoneOnceTheyAre();
 
 private:
     std::unique_ptr<GenicamDevice> openText(const QByteArray &description);
@@ -378,6 +390,17 @@ void GenicamDeviceTest::unusableDescriptions()
     for (const QString &path : {"/nowhere/at/all.xml"_s, m_directory.path()}) {
         QVERIFY(!GenicamDevice::openBuiltIn(path, &m_error) && m_error.startsWith(path));
     }
+}
+
+/// Who asks a server whether a command is done may do so at any moment.
+void GenicamDeviceTest::commandsShowAsDoneOnceTheyAre()
+{
+    NotingMemory memory;
+    CameraBehaviour::Registers registers = {};
+    registers.acquisitionStart = 4;
+    registers.acquisitionStatus = 8;
+    CameraBehaviour(memory, registers, [] { return 0; }).update();
+    QCOMPARE(memory.written.mid(0, 2), (QVector<quint64>{8, 4}));
 }
 
 QTEST_GUILESS_MAIN(GenicamDeviceTest)

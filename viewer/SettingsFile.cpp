@@ -210,6 +210,11 @@ QString SettingsFile::load(const QString &fileName)
     if (file.error() != QFileDevice::NoError) {
         return file.errorString();
     }
+    return parse(text);
+}
+
+QString SettingsFile::parse(const QByteArray &text)
+{
     if (text.size() > kMaxSize) {
         return tr("the file is too large");
     }
@@ -228,20 +233,22 @@ QString SettingsFile::load(const QString &fileName)
 
 QString SettingsFile::save(const QString &fileName) const
 {
-    if (isSpecial(fileName)) {
-        return tr("this is no ordinary file");
-    }
+    return isSpecial(fileName) ? tr("this is no ordinary file") : WholeFile::write(fileName, text());
+}
+
+QByteArray SettingsFile::text() const
+{
     QStringList nodes;
     for (const Entry &entry : entries) { // each on a line of its own, which QJsonDocument does not do
         nodes.append(QStringLiteral("\n        {\"name\": %1, \"type\": \"%2\", \"value\": %3}")
                          .arg(spelled(entry.node), QLatin1String(findType(entry.type)->name), spelled(entry.value)));
     }
-    const QString text = QStringLiteral("{\n    \"format\": \"%1\",\n    \"version\": %2,\n"
-                                        "    \"camera\": {\"vendor\": %3, \"model\": %4, \"serial\": %5},\n"
-                                        "    \"nodes\": [%6\n    ]\n}\n")
-                             .arg(kFormat, QString::number(kVersion), spelled(vendor), spelled(model), spelled(serial),
-                                  nodes.join(QLatin1Char(',')));
-    return WholeFile::write(fileName, text.toUtf8());
+    return QStringLiteral("{\n    \"format\": \"%1\",\n    \"version\": %2,\n"
+                          "    \"camera\": {\"vendor\": %3, \"model\": %4, \"serial\": %5},\n"
+                          "    \"nodes\": [%6\n    ]\n}\n")
+        .arg(kFormat, QString::number(kVersion), spelled(vendor), spelled(model), spelled(serial),
+             nodes.join(QLatin1Char(',')))
+        .toUtf8();
 }
 
 QVariant SettingsFile::value(Device &device, const QString &node, RuvoNodeType type)

@@ -26,6 +26,9 @@ struct SettingsFile
     /// cannot be loaded changes nothing here, and a failed save nothing in the file.
     QString load(const QString &fileName);
     QString save(const QString &fileName) const;
+    /// The same with the contents of such a file.
+    QString parse(const QByteArray &text);
+    QByteArray text() const;
 
     /// What one node holds, as an Entry has it; invalid when it cannot be read, or is nothing that a file can hold.
     static QVariant value(Device &device, const QString &node, RuvoNodeType type);
