@@ -17,8 +17,8 @@
 #include <QPushButton>
 #include <QResizeEvent>
 #include <QSignalBlocker>
-#include <QVariant>
 
+#include <cmath>
 #include <limits>
 
 using namespace VyViewer;
@@ -284,12 +284,14 @@ void ParamPageWidgetItem::readFloat()
     }
     auto *const spin = static_cast<VyDoubleSpinBox *>(m_editor);
     const QSignalBlocker blocker(spin);
-    spin->setMinimum(static_cast<double>(min));
-    spin->setMaximum(static_cast<double>(max));
+    // A limit that is no number is none: a spin box would take it for the value.
+    using Limits = std::numeric_limits<float>;
+    spin->setMinimum(static_cast<double>(std::isnan(min) ? Limits::lowest() : min));
+    spin->setMaximum(static_cast<double>(std::isnan(max) ? Limits::max() : max));
     spin->setSingleStep(static_cast<double>(inc));
     spin->setValue(static_cast<double>(value));
-    m_floatRead = value;
-    m_floatShown = spin->value();
+    m_valueRead = value;
+    m_textShown = spin->text();
 }
 
 void ParamPageWidgetItem::readEnum()
@@ -317,6 +319,8 @@ void ParamPageWidgetItem::readString()
     auto *const edit = static_cast<VyLineEdit *>(m_editor);
     const QSignalBlocker blocker(edit);
     edit->setText(value);
+    m_valueRead = value;
+    m_textShown = edit->text();
 }
 
 void ParamPageWidgetItem::onIntParamEditFinished()
@@ -335,10 +339,8 @@ void ParamPageWidgetItem::onFloatParamEditFinished()
     if (!spin) {
         return;
     }
-    // An untouched editor writes the device's own float, also where the editor rounds or clamps what it shows.
-    const double value = spin->value();
     DeviceAccess::service()->setParamFloat(m_device, m_nodeName,
-                             value == m_floatShown ? m_floatRead : static_cast<float>(value));
+                                           edited(spin->text(), static_cast<float>(spin->value())));
     Q_EMIT valueChanged();
 }
 
@@ -379,7 +381,7 @@ void ParamPageWidgetItem::onLineEditFinished()
     if (!edit) {
         return;
     }
-    DeviceAccess::service()->setParamString(m_device, m_nodeName, edit->text());
+    DeviceAccess::service()->setParamString(m_device, m_nodeName, edited(edit->text(), edit->text()));
     Q_EMIT valueChanged();
 }
 
@@ -390,9 +392,19 @@ QWidget *ParamPageWidgetItem::focusEditor() const
     return toggle ? toggle : m_editor;
 }
 
+/// What an edit comes to. An untouched editor stands for what the device holds, also where it rounds, clamps or
+/// cuts what it shows.
+template <typename Value>
+Value ParamPageWidgetItem::edited(const QString &shown, Value value) const
+{
+    return shown == m_textShown ? m_valueRead.value<Value>() : value;
+}
+
 QString ParamPageWidgetItem::translated(const QString &text) const
 {
-    return tr(text.toUtf8().constData());
+    const QByteArray source = text.toUtf8();
+    // Nobody translates what this cannot hold, a NUL or half a character, and two entries must not become one.
+    return QString::fromUtf8(source.constData()) == text ? tr(source.constData()) : text;
 }
 
 QList<QString> ParamPageWidgetItem::translated(QList<QString> entries) const

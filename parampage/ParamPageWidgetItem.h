@@ -4,6 +4,7 @@
 
 #include <QColor>
 #include <QString>
+#include <QVariant>
 #include <QWidget>
 
 class CLabel;
@@ -60,6 +61,8 @@ private:
     void readEnum();
     void readString();
     QWidget *focusEditor() const;
+    template <typename Value>
+    Value edited(const QString &shown, Value value) const;
     QString translated(const QString &text) const;
     QList<QString> translated(QList<QString> entries) const;
 
@@ -72,6 +75,6 @@ private:
     QColor m_background = Qt::white;
     const QColor m_normalColor = Qt::white;
     RuvoNodeType m_nodeType = RuvoNodeUnknown; // fixed once the editor is built
-    float m_floatRead = 0;     // the float that the device holds ...
-    double m_floatShown = 0;   // ... and what the editor made of it
+    QVariant m_valueRead; // the float or text that the device holds ...
+    QString m_textShown;  // ... and what the editor made of it
 };

@@ -4,8 +4,6 @@
 
 namespace {
 
-constexpr long kFailure = -1;
-
 QList<QString> words(const char *text)
 {
     return QString::fromLatin1(text).split(QLatin1Char(' '));
@@ -59,7 +57,13 @@ QStringList ScriptedDevice::takeCalls()
 
 QStringList ScriptedDevice::writes() const
 {
-    return calls.filter(QRegularExpression(QStringLiteral("^(set|run) ")));
+    QStringList found;
+    for (const QString &call : calls) { // no pattern: with half a character in it a call would match none
+        if (call.startsWith(QLatin1String("set ")) || call.startsWith(QLatin1String("run "))) {
+            found.append(call);
+        }
+    }
+    return found;
 }
 
 QStringList ScriptedDevice::refreshOf(const QString &name)
@@ -71,37 +75,54 @@ long ScriptedDevice::getParamEnum(const QString &name, QString &value, QList<QSt
 {
     const long status = read(name, value);
     if (status == 0) {
-        entries = node(name).entries;
+        entries = node(name).answer.entries;
     }
     return status;
 }
 
 long ScriptedDevice::executeCMD(const QString &name)
 {
-    calls.append(QStringLiteral("run ") + name);
-    return node(name).refusesWrites ? kFailure : 0;
+    note(QStringLiteral("run ") + name);
+    return node(name).refusesWrites ? failure : 0;
 }
 
 RuvoNodeType ScriptedDevice::getNodeType(const QString &name)
 {
-    calls.append(QStringLiteral("type ") + name);
-    return node(name).type;
+    note(QStringLiteral("type ") + name);
+    Node &asked = node(name);
+    return asked.answer.type = asked.type;
 }
 
 RuvoNodeAccessMode ScriptedDevice::getNodeAccessMode(const QString &name)
 {
-    calls.append(QStringLiteral("mode ") + name);
-    return node(name).mode;
+    note(QStringLiteral("mode ") + name);
+    Node &asked = node(name);
+    ++asked.answer.modes;
+    return asked.answer.mode = asked.mode;
+}
+
+void ScriptedDevice::note(const QString &call)
+{
+    calls.append(call);
+    if (onCall) {
+        onCall(call);
+    }
 }
 
 template <typename Value>
 long ScriptedDevice::read(const QString &name, Value &value)
 {
-    calls.append(QStringLiteral("get ") + name);
-    if (node(name).failsReads) {
-        return kFailure;
+    note(QStringLiteral("get ") + name);
+    Node &asked = node(name);
+    if (asked.failsReads) {
+        return failure;
     }
-    value = node(name).value.template value<Value>();
+    value = asked.value.template value<Value>();
+    ++asked.answer.values;
+    asked.answer.value = value;
+    asked.answer.entries = asked.entries;
+    asked.answer.min = asked.min;
+    asked.answer.max = asked.max;
     return 0;
 }
 template long ScriptedDevice::read(const QString &, bool &);
@@ -110,20 +131,21 @@ template long ScriptedDevice::read(const QString &, QString &);
 template <typename Number>
 long ScriptedDevice::readNumber(const QString &name, Number &value, Number &min, Number &max, Number &inc)
 {
+    const long status = read(name, value);
     const Node &limits = node(name);
     min = static_cast<Number>(limits.min);
     max = static_cast<Number>(limits.max);
     inc = static_cast<Number>(limits.inc);
-    return read(name, value);
+    return status;
 }
 template long ScriptedDevice::readNumber(const QString &, int &, int &, int &, int &);
 template long ScriptedDevice::readNumber(const QString &, float &, float &, float &, float &);
 
 long ScriptedDevice::write(const QString &name, const QVariant &value)
 {
-    calls.append(QStringLiteral("set %1=%2").arg(name, value.toString()));
+    note(QStringLiteral("set %1=%2").arg(name, value.toString()));
     if (node(name).refusesWrites) {
-        return kFailure;
+        return failure;
     }
     node(name).value = value;
     return 0;

@@ -6,6 +6,8 @@
 #include <QStringList>
 #include <QVariant>
 
+#include <functional>
+
 /// An in-memory device that writes down every call in order and does as it is told: a node can refuse,
 /// adjust, fail, or change its access mode at any moment.
 ///
@@ -24,6 +26,19 @@ public:
         double inc = 1;
         bool failsReads = false;
         bool refusesWrites = false;
+
+        /// What the device last answered about it, and how often it has given a value.
+        struct Answer
+        {
+            RuvoNodeType type = RuvoNodeUnknown;
+            int modes = 0;
+            int values = 0;
+            RuvoNodeAccessMode mode = RuvoNodeNotImplemented;
+            QVariant value = {};
+            QList<QString> entries = {};
+            double min = 0;
+            double max = 0;
+        } answer = {};
     };
 
     /// The node of that name; made on first use, with a type guessed from its name as devices name them.
@@ -32,6 +47,10 @@ public:
     /// Forgets all nodes and calls.
     void reset();
 
+    /// Hears of every call, before it is answered.
+    std::function<void(const QString &call)> onCall;
+
+    long failure = -1; // the status of what fails
     QStringList calls;
     QStringList takeCalls();
     /// What was written or run, without the reads.
@@ -60,6 +79,7 @@ public:
     RuvoNodeAccessMode getNodeAccessMode(const QString &name) override;
 
 private:
+    void note(const QString &call);
     template <typename Value>
     long read(const QString &name, Value &value);
     template <typename Number>

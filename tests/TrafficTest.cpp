@@ -237,7 +237,7 @@ void TrafficTest::savedAsCsv()
         if (auto *const files = qobject_cast<QFileDialog *>(dialog)) {
             files->selectFile(folder.filePath(name));
         } else if (auto *const box = qobject_cast<QMessageBox *>(dialog)) {
-            complaint = box->text();
+            complaint = box->textFormat() == Qt::PlainText ? box->text() : "rich text"_s;
         }
         if (dialog) {
             dialog->accept();

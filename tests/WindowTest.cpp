@@ -13,9 +13,12 @@
 #include <QMessageBox>
 #include <QPushButton>
 #include <QSettings>
-#include <QStandardPaths>
 #include <QStatusBar>
+#include <QTabWidget>
+#include <QTemporaryDir>
+#include <QTextDocument>
 #include <QTimer>
+#include <QWindow>
 #include <QtTest>
 
 namespace {
@@ -85,6 +88,7 @@ class WindowTest : public QObject
         QVERIFY(QTest::qWaitForWindowActive(m_window.get()));
     }
 
+    QTemporaryDir m_settings;
     QTimer m_answer; // "Cancel" to every question, even one that nobody expects
     QStringList m_asked;
     CameraProcess m_camera;
@@ -93,9 +97,8 @@ class WindowTest : public QObject
 private Q_SLOTS:
     void initTestCase()
     {
-        QStandardPaths::setTestModeEnabled(true);
+        QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, m_settings.path()); // shared with no other run
         QCoreApplication::setOrganizationName(QStringLiteral("vytrigger-test"));
-        QSettings().clear();
         connect(&m_answer, &QTimer::timeout, this, [this] {
             if (auto *const box = qobject_cast<QMessageBox *>(QApplication::activeModalWidget())) {
                 m_asked.append(box->objectName());
@@ -237,6 +240,28 @@ private Q_SLOTS:
         const QString all = listed().join(QLatin1Char('|'));
         QVERIFY2(all.contains(QStringLiteral("EV-000001")) && all.contains(QStringLiteral("127.0.0.3")), qPrintable(all));
         QCOMPARE(all.count(QStringLiteral("not connected")), 3);
+    }
+
+    void whatACameraSaysIsNoMarkup()
+    {
+        const QString text = QStringLiteral("<b>&A</b> &lt;[*]");
+        QSettings().clear();
+        QSettings().setValue(QStringLiteral("devices/127.0.0.3"), QStringList{text, text, text});
+        restart(true);
+        QVERIFY(open(QStringLiteral("127.0.0.3"), CameraConnection::Failed));
+        const auto *const tabs = m_window->findChild<QTabWidget *>(QStringLiteral("tabs"));
+        const auto *const list = m_window->findChild<QListWidget *>(QStringLiteral("deviceList"));
+        for (const QString &toolTip : {tabs->tabToolTip(0), list->item(1)->toolTip()}) {
+            QTextDocument shown;
+            shown.setHtml(toolTip);
+            QVERIFY(Qt::mightBeRichText(toolTip) && shown.toPlainText() == listed().last());
+        }
+        for (const QLabel *label : m_window->findChildren<QLabel *>()) {
+            QVERIFY(label->textFormat() == Qt::PlainText || !label->text().contains(text));
+        }
+        QCOMPARE(tabs->tabText(0).count(QStringLiteral("&&")), 4);
+        QVERIFY2(m_window->windowHandle()->title().startsWith(text), qPrintable(m_window->windowHandle()->title()));
+        QSettings().clear();
     }
 
     void closingReleasesTheCamera()

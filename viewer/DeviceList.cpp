@@ -1,5 +1,7 @@
 #include "DeviceList.h"
 
+#include "DeviceText.h"
+
 #include <QAction>
 #include <QEvent>
 #include <QGuiApplication>
@@ -16,7 +18,7 @@ struct Item : QListWidgetItem
     void update()
     {
         setText(DeviceList::details(camera, state));
-        setToolTip(text());
+        setToolTip(DeviceText::toolTip(text()));
         setIcon(DeviceList::icon(state));
     }
 

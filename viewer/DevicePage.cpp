@@ -1,5 +1,6 @@
 #include "DevicePage.h"
 
+#include "DeviceText.h"
 #include "SettingsApplier.h"
 #include "SettingsFile.h"
 #include "TrafficModel.h"
@@ -16,7 +17,6 @@
 #include <QEvent>
 #include <QFileDialog>
 #include <QLabel>
-#include <QMessageBox>
 #include <QPlainTextEdit>
 #include <QProgressBar>
 #include <QProgressDialog>
@@ -31,6 +31,7 @@ using VyViewer::Singleton;
 namespace {
 
 constexpr int kMaxShownValue = 60;  // characters of a value in a message
+constexpr int kMaxName = 64;        // characters of a model's name, so that it widens no window
 constexpr int kProgressDelay = 400; // milliseconds before applying shows its progress
 constexpr char kUserSetNode[] = "UserSetSelector";
 
@@ -47,6 +48,7 @@ void showProblems(QWidget *parent, const QString &title, const QString &summary,
     dialog.setObjectName(QStringLiteral("problemsDialog"));
     dialog.setWindowTitle(title);
     auto *const label = new QLabel(summary, &dialog);
+    label->setTextFormat(Qt::PlainText);
     label->setWordWrap(true);
     auto *const list = new QPlainTextEdit(&dialog);
     list->setObjectName(QStringLiteral("problems"));
@@ -97,6 +99,7 @@ DevicePage::DevicePage(const DeviceList::Camera &known, const QString &descripti
     stripLayout->addWidget(m_reconnect[0]);
 
     m_noticeText->setAlignment(Qt::AlignCenter);
+    m_noticeText->setTextFormat(Qt::PlainText);
     m_noticeText->setWordWrap(true);
     m_noticeText->setTextInteractionFlags(Qt::TextSelectableByMouse);
     m_busy->setRange(0, 0);
@@ -199,6 +202,7 @@ void DevicePage::loadUserSet(const QString &set)
         QMessageBox box(QMessageBox::Question, tr("Load user set"),
                         tr("Load user set %1?").arg(set), QMessageBox::Cancel, window());
         box.setObjectName(QStringLiteral("loadUserSetBox"));
+        box.setTextFormat(Qt::PlainText);
         box.setInformativeText(tr("Settings of this camera were changed and are in no user set. "
                                   "Loading replaces them."));
         const QAbstractButton *const load = box.addButton(tr("Load"), QMessageBox::AcceptRole);
@@ -240,8 +244,9 @@ void DevicePage::saveSettings()
     commitPendingEdit();
     const SettingsFile file = SettingsFile::read(*device(), bareDevice()->nodes());
     if (!file.unread.isEmpty()) {
-        QMessageBox::critical(window(), tr("Save settings"), tr("Nothing was saved. These settings could not be read: %1")
-                                                                 .arg(file.unread.join(QLatin1String(", "))));
+        DeviceText::tell(window(), QMessageBox::Critical, tr("Save settings"),
+                         tr("Nothing was saved. These settings could not be read: %1")
+                             .arg(file.unread.join(QLatin1String(", "))));
         return;
     }
     if (file.entries.isEmpty()) {
@@ -263,7 +268,7 @@ void DevicePage::saveSettings()
     const QString fileName = dialog.selectedFiles().constFirst();
     const QString error = file.save(fileName);
     if (!error.isEmpty()) {
-        QMessageBox::critical(window(), tr("Save settings"), error);
+        DeviceText::tell(window(), QMessageBox::Critical, tr("Save settings"), error);
         return;
     }
     Q_EMIT said(tr("Settings saved in %1").arg(QDir::toNativeSeparators(fileName)));
@@ -282,7 +287,7 @@ void DevicePage::applySettings()
     SettingsFile file;
     const QString error = file.load(fileName);
     if (!error.isEmpty()) {
-        QMessageBox::critical(window(), tr("Apply settings"), error);
+        DeviceText::tell(window(), QMessageBox::Critical, tr("Apply settings"), error);
         return;
     }
     SettingsApplier applier(*m_device, file, [this] { return lastError(); });
@@ -408,7 +413,7 @@ void DevicePage::readText(const char *node, QString &text) const
 {
     QString value;
     if (devices()->getParamString(device(), QString::fromLatin1(node), value) == 0 && !value.isEmpty()) {
-        text = value;
+        text = value.simplified().left(kMaxName);
     }
 }
 

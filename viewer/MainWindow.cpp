@@ -1,5 +1,6 @@
 #include "MainWindow.h"
 
+#include "DeviceText.h"
 #include "NodeView.h"
 #include "TrafficView.h"
 
@@ -45,11 +46,6 @@ constexpr int kPanelHeight = 45;    // lines
 // The address of one host: not of this network, of a group or of everybody.
 constexpr char kAddressPattern[] = "(22[0-3]|2[01]\\d|1\\d\\d|[1-9]\\d?)(\\.(25[0-5]|2[0-4]\\d|1\\d\\d|[1-9]?\\d)){3}";
 
-QString escaped(QString text)
-{
-    return text.replace(QLatin1Char('&'), QLatin1String("&&"));
-}
-
 } // namespace
 
 MainWindow::MainWindow(const QString &language, bool remember)
@@ -82,6 +78,7 @@ MainWindow::MainWindow(const QString &language, bool remember)
     m_centre->addWidget(m_placeholder);
     m_centre->addWidget(m_tabs);
     setCentralWidget(m_centre);
+    m_state->setTextFormat(Qt::PlainText);
     statusBar()->addPermanentWidget(m_state);
     connect(&m_search, &QFutureWatcherBase::finished, this, &MainWindow::addFoundCameras);
     m_nodeTimer.setSingleShot(true);
@@ -257,7 +254,7 @@ QAction *MainWindow::newEntryMenu(QStyle::StandardPixmap icon, const char *node,
             return;
         }
         for (const QString &entry : qAsConst(entries)) {
-            QAction *const action = menu->addAction(escaped(entry));
+            QAction *const action = menu->addAction(DeviceText::action(entry));
             action->setCheckable(true);
             action->setChecked(entry == current);
             action->setEnabled(mode == RuvoNodeReadWrite || mode == RuvoNodeWriteOnly);
@@ -518,9 +515,9 @@ void MainWindow::followPage(DevicePage *page)
     }
     m_list->setState(page->camera().address, page->state());
     const int index = m_tabs->indexOf(page);
-    m_tabs->setTabText(index, escaped(DeviceList::name(page->camera())));
+    m_tabs->setTabText(index, DeviceText::action(DeviceList::name(page->camera())));
     m_tabs->setTabIcon(index, DeviceList::icon(page->state()));
-    m_tabs->setTabToolTip(index, DeviceList::details(page->camera(), page->state()));
+    m_tabs->setTabToolTip(index, DeviceText::toolTip(DeviceList::details(page->camera(), page->state())));
     if (page == currentPage()) {
         followCurrentPage();
     }
@@ -540,7 +537,7 @@ void MainWindow::followCurrentPage()
     m_centre->setCurrentWidget(page ? static_cast<QWidget *>(m_tabs) : m_placeholder);
 
     const DeviceList::State state = page ? page->state() : DeviceList::NotOpen;
-    const QString model = page ? page->camera().model : QString();
+    const QString model = page ? DeviceText::windowTitle(page->camera().model) : QString();
     setWindowTitle(model.isEmpty() ? tr("Trigger Viewer") : tr("%1 – Trigger Viewer").arg(model));
     m_state->setText(page ? tr("%1 – %2").arg(DeviceList::name(page->camera()), DeviceList::text(state)) : QString());
 

@@ -1,5 +1,7 @@
 #include "RecordTable.h"
 
+#include "DeviceText.h"
+
 #include <QAbstractButton>
 #include <QClipboard>
 #include <QCoreApplication>
@@ -24,8 +26,7 @@ public:
         if (role != Qt::ToolTipRole) {
             return QSortFilterProxyModel::data(index, role);
         }
-        const QString text = index.data().toString(); // in full, in several lines if need be: rich text is wrapped
-        return text.isEmpty() ? text : QStringLiteral("<qt>%1</qt>").arg(text.toHtmlEscaped());
+        return DeviceText::toolTip(index.data().toString()); // in full
     }
 
 protected:

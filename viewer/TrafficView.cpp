@@ -1,12 +1,12 @@
 #include "TrafficView.h"
 
+#include "DeviceText.h"
 #include "TrafficModel.h"
 #include "WholeFile.h"
 
 #include <QCheckBox>
 #include <QDateTime>
 #include <QFileDialog>
-#include <QMessageBox>
 #include <QPushButton>
 #include <QScrollBar>
 #include <QSortFilterProxyModel>
@@ -101,6 +101,7 @@ void TrafficView::save()
                                                       tr("CSV files (*.csv)"));
     const QString error = name.isEmpty() ? QString() : WholeFile::write(name, csv());
     if (!error.isEmpty()) {
-        QMessageBox::critical(this, tr("Save traffic"), tr("%1 cannot be written: %2").arg(name, error));
+        DeviceText::tell(this, QMessageBox::Critical, tr("Save traffic"),
+                         tr("%1 cannot be written: %2").arg(name, error));
     }
 }
