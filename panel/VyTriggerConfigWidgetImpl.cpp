@@ -72,7 +72,7 @@ void VyTriggerConfigWidgetImpl::onUpdateDeviceGrabStatus(IDevice dev, int status
     m_stopBlock->blockSignals(acquiring); // its add button does nothing then
     m_triggerPage->updateWidget();
     m_stopContainer->updatePages();
-    m_stopContainer->setTitlesEnabled(!acquiring);
+    m_stopContainer->setTitlesEnabled(!m_stopBlock->signalsBlocked()); // by now maybe another state's
 }
 
 void VyTriggerConfigWidgetImpl::onChangeProj(QVariantMap payload)

@@ -10,6 +10,7 @@
 #include <VyCommonGUI/VySpinBox.h>
 #include <VyCommonGUI/VyToggleSwitch.h>
 
+#include <QAbstractItemView>
 #include <QCursor>
 #include <QHBoxLayout>
 #include <QPainter>
@@ -17,6 +18,7 @@
 #include <QPushButton>
 #include <QResizeEvent>
 #include <QSignalBlocker>
+#include <QTimer>
 
 #include <cmath>
 #include <limits>
@@ -56,6 +58,27 @@ constexpr char kValueList[] = "valueList"; // the entries as the device spells t
     QT_TRANSLATE_NOOP("ParamPageWidgetItem", "XonXoff"),
 };
 
+/// The list of a combo box, which is made when it is first opened, while it is open.
+QAbstractItemView *openList(const QComboBox *combo)
+{
+    auto *const list = combo->findChild<QAbstractItemView *>();
+    return list && list->isVisible() ? list : nullptr;
+}
+
+int highlightedRow(const QComboBox *combo)
+{
+    const auto *const list = openList(combo);
+    return list ? list->currentIndex().row() : -1;
+}
+
+/// Highlights a row of an open list, and that of the current entry in place of a row that is not there.
+void highlight(const QComboBox *combo, int row)
+{
+    if (auto *const list = openList(combo)) {
+        list->setCurrentIndex(list->model()->index(row < 0 ? combo->currentIndex() : row, combo->modelColumn()));
+    }
+}
+
 } // namespace
 
 ParamPageWidgetItem::ParamPageWidgetItem(Device *device, const QString &label, const QString &nodeName,
@@ -79,16 +102,19 @@ void ParamPageWidgetItem::refresh()
     if (!m_editor) {
         return;
     }
-    const RuvoNodeAccessMode mode = DeviceAccess::service()->getNodeAccessMode(m_device, m_nodeName);
-    const bool shown = mode == RuvoNodeWriteOnly || mode == RuvoNodeReadOnly || mode == RuvoNodeReadWrite;
-    if (shown) {
+    m_mode = DeviceAccess::service()->getNodeAccessMode(m_device, m_nodeName);
+    const auto isShown = [this] {
+        return m_mode == RuvoNodeWriteOnly || m_mode == RuvoNodeReadOnly || m_mode == RuvoNodeReadWrite;
+    };
+    if (isShown()) {
         readValue();
     }
+    const bool shown = isShown(); // an event within the read may have brought a newer mode
     // An editor that loses the focus by being disabled or hidden reports a finished edit. That is not the
     // user's doing and must not be written.
     const QSignalBlocker blocker(m_editor);
     if (shown) {
-        m_editor->setEnabled(mode != RuvoNodeReadOnly);
+        m_editor->setEnabled(m_mode != RuvoNodeReadOnly);
     }
     setHidden(!shown);
 }
@@ -103,9 +129,11 @@ void ParamPageWidgetItem::retranslate()
     if (auto *const combo = qobject_cast<QComboBox *>(m_editor)) {
         const QSignalBlocker blocker(combo);
         const int index = combo->currentIndex();
+        const int highlighted = highlightedRow(combo);
         combo->clear();
         combo->addItems(translated(combo->property(kValueList).value<QList<QString>>()));
         combo->setCurrentIndex(index);
+        highlight(combo, highlighted);
     } else if (auto *const button = qobject_cast<QPushButton *>(m_editor)) {
         button->setText(tr("Execute"));
     }
@@ -157,6 +185,9 @@ void ParamPageWidgetItem::resizeEvent(QResizeEvent *event)
 void ParamPageWidgetItem::showEvent(QShowEvent *event)
 {
     if (!m_editor) {
+        m_nodeType = DeviceAccess::service()->getNodeType(m_device, m_nodeName);
+    }
+    if (!m_editor) { // nor was it built by a show within the call
         m_editor = createEditor();
         m_editor->setFixedHeight(kEditorHeight);
         focusEditor()->setAccessibleName(translated(m_labelText));
@@ -174,7 +205,6 @@ void ParamPageWidgetItem::showEvent(QShowEvent *event)
 
 QWidget *ParamPageWidgetItem::createEditor()
 {
-    m_nodeType = DeviceAccess::service()->getNodeType(m_device, m_nodeName);
     switch (m_nodeType) {
     case RuvoNodeBoolean:
         return createSwitch();
@@ -302,12 +332,15 @@ void ParamPageWidgetItem::readEnum()
         return;
     }
     auto *const combo = static_cast<VyComboBox *>(m_editor);
+    const auto before = combo->property(kValueList).value<QList<QString>>();
+    const int highlighted = highlightedRow(combo);
     // Stored as the very type it is read back as: a QStringList in a QVariant reads back empty.
     combo->setProperty(kValueList, QVariant::fromValue<QList<QString>>(entries));
     const QSignalBlocker blocker(combo);
     combo->clear();
     combo->addItems(translated(entries));
     combo->setCurrentText(translated(value));
+    highlight(combo, entries == before ? highlighted : entries.indexOf(before.value(highlighted)));
 }
 
 void ParamPageWidgetItem::readString()
@@ -365,8 +398,14 @@ void ParamPageWidgetItem::onEnumParamChanged()
     if (index < 0 || index >= entries.size()) {
         return;
     }
+    const bool focused = combo->hasFocus();
     DeviceAccess::service()->setParamEnum(m_device, m_nodeName, entries.at(index));
     Q_EMIT valueChanged();
+    // The Return that has chosen in a list is yet to be delivered, to whatever has the focus: not to an editor that
+    // got it because this one was hidden or disabled.
+    if (focused && !combo->hasFocus()) {
+        QTimer::singleShot(0, this, [next = KeyboardFocus::giveUp(window())] { KeyboardFocus::giveBack(next); });
+    }
 }
 
 void ParamPageWidgetItem::onButtonClicked()

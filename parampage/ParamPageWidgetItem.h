@@ -75,6 +75,7 @@ private:
     QColor m_background = Qt::white;
     const QColor m_normalColor = Qt::white;
     RuvoNodeType m_nodeType = RuvoNodeUnknown; // fixed once the editor is built
+    RuvoNodeAccessMode m_mode = RuvoNodeNotImplemented; // as answered last
     QVariant m_valueRead; // the float or text that the device holds ...
     QString m_textShown;  // ... and what the editor made of it
 };

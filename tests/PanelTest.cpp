@@ -326,17 +326,6 @@ private Q_SLOTS:
         QCOMPARE(edited->hasFocus(), !locked);
     }
 
-    void hidingAFocusedStopPageWritesNothing()
-    {
-        show("Hold");
-        auto *const spin = editor<VySpinBox>(m_panel.get(), "TriggerStopConfig1FrameCount");
-        spin->setFocus();
-        QTest::keyClicks(spin, QStringLiteral("4"));
-        find<VyTriggerConfigWidgetImpl>()->holdTriggerRefresh(false);
-        QVERIFY(stopBlock()->isHidden());
-        QVERIFY(m_device.writes().isEmpty());
-    }
-
     void destroyingAFocusedPanelWritesNothing_data()
     {
         QTest::addColumn<bool>("window");

@@ -119,7 +119,7 @@ long ScriptedDevice::read(const QString &name, Value &value)
     }
     value = asked.value.template value<Value>();
     ++asked.answer.values;
-    asked.answer.value = value;
+    asked.answer.value = asked.value;
     asked.answer.entries = asked.entries;
     asked.answer.min = asked.min;
     asked.answer.max = asked.max;

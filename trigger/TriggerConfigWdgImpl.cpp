@@ -85,17 +85,12 @@ TriggerConfigWdgImpl::~TriggerConfigWdgImpl() = default;
 
 void TriggerConfigWdgImpl::updateSourceTitles()
 {
-    for (const Title &title : qAsConst(m_titles)) {
-        title.widget->hide();
+    m_mode = DeviceAccess::currentEntry(device(), QLatin1String(kModeNode));
+    if (m_mode != QLatin1String("None")) {
+        m_source = DeviceAccess::currentEntry(device(), QLatin1String(kSourceNode));
     }
-    if (DeviceAccess::currentEntry(device(), QLatin1String(kModeNode)) == QLatin1String("None")) {
-        return;
-    }
-    const QString source = DeviceAccess::currentEntry(device(), QLatin1String(kSourceNode));
     for (const Title &title : qAsConst(m_titles)) {
-        if (source == QLatin1String(title.source)) {
-            title.widget->show();
-        }
+        title.widget->setVisible(m_mode != QLatin1String("None") && m_source == QLatin1String(title.source));
     }
 }
 
@@ -153,12 +148,12 @@ void TriggerConfigWdgImpl::changeEvent(QEvent *event)
 
 void TriggerConfigWdgImpl::onTriggerModeChange()
 {
-    const QString mode = DeviceAccess::currentEntry(device(), QLatin1String(kModeNode));
-    Q_EMIT triggerModeHoldRefresh(mode == QLatin1String("Hold"));
+    m_mode = DeviceAccess::currentEntry(device(), QLatin1String(kModeNode));
+    Q_EMIT triggerModeHoldRefresh(m_mode == QLatin1String("Hold"));
 
     QVariantMap payload = DeviceEvents::payload(device());
     payload.insert(QStringLiteral("TriggerMode"),
-                   mode == QLatin1String("None") ? QStringLiteral("Off") : QStringLiteral("On"));
+                   m_mode == QLatin1String("None") ? QStringLiteral("Off") : QStringLiteral("On"));
     payload.insert(QStringLiteral("TriggerConfigWdgImpl"), QVariant()); // the key alone marks the sender
     DeviceEvents::post(QStringLiteral("DeviceParamChanged"), payload);
 

@@ -65,6 +65,9 @@ private:
     void refreshCommands(CommandSource source, const QVariantMap &payload);
 
     QVector<Title> m_titles;
+    // As answered last: an event within a read brings newer answers than those of the pass that is reading.
+    QString m_mode;
+    QString m_source;
     CommandFormats m_formats;
     DeviceEvents m_events;
     VyViewer::CoreEvent *m_sourceSubscription = nullptr; // owned by m_events
