@@ -184,10 +184,9 @@ void ParamPageWidgetItem::resizeEvent(QResizeEvent *event)
 
 void ParamPageWidgetItem::showEvent(QShowEvent *event)
 {
-    if (!m_editor) {
-        m_nodeType = DeviceAccess::service()->getNodeType(m_device, m_nodeName);
-    }
+    const RuvoNodeType type = m_editor ? m_nodeType : DeviceAccess::service()->getNodeType(m_device, m_nodeName);
     if (!m_editor) { // nor was it built by a show within the call
+        m_nodeType = type;
         m_editor = createEditor();
         m_editor->setFixedHeight(kEditorHeight);
         focusEditor()->setAccessibleName(translated(m_labelText));

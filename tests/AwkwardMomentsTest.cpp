@@ -63,7 +63,7 @@ class AwkwardMomentsTest : public QObject
         m_device.onCall = [this, judge = m_device.onCall](const QString &call) {
             judge(call);
             const bool write = call.startsWith("set "_s) || call.startsWith("run "_s);
-            if (m_step && (m_skip < 0 ? write : m_skip-- == 0)) {
+            if (m_step && (m_skip < 0 ? write : call.endsWith(m_node) && m_skip-- == 0)) {
                 std::exchange(m_step, nullptr)();
             }
         };
@@ -123,7 +123,8 @@ class AwkwardMomentsTest : public QObject
     QPointer<VyTriggerConfigWdg> m_panel; // child of the window
     std::unique_ptr<PanelModel> m_model;
     Step m_step;     // what the device does once ...
-    int m_skip = -1; // ... within the call after so many, or, when negative, within the next write
+    int m_skip = -1; // ... within the call after so many of a node, or, when negative, within the next write
+    QString m_node;
 
 private Q_SLOTS:
     void init()
@@ -154,9 +155,9 @@ private Q_SLOTS:
             {"its block gone", change(kMode, "None"_s, 4, "DeviceParamChanged"_s)},
             {"acquisition starts", change(kMode, {}, 3, kGrab)},
         };
-        for (const auto &[name, step] : steps) {
-            for (size_t i = 0; i < std::size(kEdits); ++i) {
-                QTest::addRow("%s: %s", kEdits[i].name, name) << int(i) << step;
+        for (size_t i = 0; i < std::size(kEdits); ++i) {
+            for (size_t j = 0; j < (i == 0 ? std::size(steps) : 3); ++j) {
+                QTest::addRow("%s: %s", kEdits[i].name, steps[j].first) << int(i) << steps[j].second;
             }
         }
     }
@@ -268,7 +269,10 @@ private Q_SLOTS:
         QFETCH(Node, node);
         QFETCH(bool, direct);
         QFETCH(Step, step);
-        for (const bool early : {false, true}) { // the receiver is there before the panel
+        for (const bool early : {true, false}) { // the receiver is there before the panel
+            if (!early && within.isNull()) {
+                break; // there is none
+            }
             init();
             m_device.node(kEdited) = node;
             CoreEvent heard(within, nullptr);
@@ -299,32 +303,35 @@ private Q_SLOTS:
     void eventsWithinACall_data()
     {
         QTest::addColumn<Step>("action");
+        QTest::addColumn<QString>("node");
         QTest::addColumn<Step>("step");
         const std::pair<const char *, Step> actions[] = {
             {"a show", [this] { m_panel->show(); }},
             {"a change of the source", [this] { press(kSource, {Qt::Key_Down}); }},
         };
-        const std::pair<const char *, Step> steps[] = {
-            {"user set", change(kMode, "None"_s, 4, kUserSet)},
-            {"mode", change(kSource, "Udp"_s, 3, "DeviceParamChanged"_s)},
-            {"source", change("TriggerStopConfig1Duration"_s, 9, 1, "triggerSource"_s)},
-            {"condition", change("TriggerStopConfig1Condtion"_s, "Second"_s, 3, "TriggerStopConditionEvent"_s)},
-            {"acquisition", change(kMode, {}, 3, kGrab)},
+        const struct { const char *event; QString node; QVariant value; int mode; } changes[] = {
+            {"UserSetLoad", kMode, "None"_s, 4}, {"UserSetLoad", kMode, {}, 3}, {"grab status", kMode, {}, 3},
+            {"DeviceParamChanged", kSource, "Udp"_s, 3}, {"UserSetLoad", kPort, 9, 1}, {"grab status", kPort, 9, 3},
+            {"triggerSource", "TriggerStopConfig1Duration"_s, 9, 1}, {"UserSetLoad", TriggerStopConfigWdg::enableNode(2), false, 4},
+            {"TriggerStopConditionEvent", "TriggerStopConfig1Condtion"_s, "Second"_s, 3},
         };
         for (const auto &[what, action] : actions) {
-            for (const auto &[name, step] : steps) {
-                QTest::addRow("%s within %s", name, what) << action << step;
+            for (const auto &[event, node, value, mode] : changes) {
+                QTest::addRow("%s, %s to %d, within %s", event, qPrintable(node), mode, what)
+                    << action << node << change(node, value, mode, QLatin1String(event));
             }
         }
     }
     void eventsWithinACall()
     {
         QFETCH(Step, action);
+        QFETCH(QString, node);
         QFETCH(Step, step);
         show();
-        for (int call = 0; !m_step; call += 37) {
+        for (int call = 0; !m_step; ++call) {
             m_panel->hide();
             init();
+            m_node = node;
             m_panel->setVisible(QByteArray(QTest::currentDataTag()).endsWith("source"));
             m_model->begin();
             m_step = step;

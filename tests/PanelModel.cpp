@@ -307,12 +307,11 @@ void PanelModel::decide()
             const ScriptedDevice::Node &enable = m_device.node(enableNode(number));
             m_pagesShown->append(!enable.failsReads && enable.value.toBool());
         }
-    } else if (m_pagesShown) {
-        for (int i = 1; i < m_stopPages.size(); ++i) {
-            for (const bool on : {true, false}) {
-                if (m_written.contains(writeOf(enableNode(i + 1), on))) {
-                    (*m_pagesShown)[i] = on;
-                }
+    }
+    for (int i = 1; m_pagesShown && i < m_stopPages.size(); ++i) { // a click on "Add" expands the block first
+        for (const bool on : {true, false}) {
+            if (m_written.contains(writeOf(enableNode(i + 1), on))) {
+                (*m_pagesShown)[i] = on;
             }
         }
     }

@@ -495,8 +495,15 @@ void PanelWalk::changeNode()
         "Hex"_s, "String"_s, "<b>x</b>"_s, "&File"_s, "a\nb"_s, QString(),
     };
     static constexpr int kModes[] = {-1, 0, 1, 2, 3, 3, 5, 1 << 30};
-    const QString name = chance(20) ? "TriggerStopConfig%1Enable"_s.arg(2 + below(4)) : pick(m_model->rows())->objectName();
-    ScriptedDevice::Node &node = m_device.node(chance(20) ? "InputTriggerMode"_s : name);
+    QString name = pick(m_model->rows())->objectName();
+    if (chance(20)) {
+        name = "TriggerStopConfig%1Enable"_s.arg(2 + below(4));
+    } else if (chance(20)) {
+        name = "InputTriggerMode"_s;
+    } else if (chance(20) && focusRow()) {
+        name = focusRow()->objectName();
+    }
+    ScriptedDevice::Node &node = m_device.node(name);
     node.failsReads = chance(5);
     node.refusesWrites = chance(5);
     node.mode = chance(75) ? RuvoNodeReadWrite : static_cast<RuvoNodeAccessMode>(pick(kModes));
