@@ -134,10 +134,11 @@ void PanelModel::touch(const ParamPageWidgetItem *row)
 
 void PanelModel::mayAdd()
 {
+    const bool known = m_pagesShown && m_container->isVisible(); // or else the click shows it, which reads the switches
     for (int i = 1; i < m_stopPages.size() && !(m_acquiring && *m_acquiring); ++i) {
-        if (!m_pagesShown || !m_pagesShown->at(i)) {
+        if (!known || !m_pagesShown->at(i)) {
             m_writable.insert(writeOf(enableNode(i + 1), true), 1);
-            if (m_pagesShown) {
+            if (known) {
                 return; // the first hidden one only
             }
         }
@@ -159,6 +160,11 @@ QStringList PanelModel::check()
     }
     for (const QString &node : qAsConst(m_required)) {
         expect(m_written.contains(node), QStringLiteral("the finished edit of %1 was not written").arg(node));
+    }
+    for (const ParamPageWidgetItem *row : qAsConst(m_rows)) {
+        const QString node = row->objectName();
+        expect(m_reacted || !m_written.contains(node) || !row->parentWidget()->isVisible() || m_refreshed.contains(pageOf(node)),
+               QStringLiteral("the page was not read again after %1 was written").arg(node));
     }
     expect(!m_silent || m_device.calls.isEmpty(), QStringLiteral("the device was called: %1").arg(m_device.calls.value(0)));
 

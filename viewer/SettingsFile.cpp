@@ -224,7 +224,7 @@ QString SettingsFile::parse(const QByteArray &text)
         return tr("line %1: %2").arg(text.left(failure.offset).count('\n') + 1).arg(failure.errorString());
     }
     QVector<Entry> loaded;
-    const QString error = readDocument(document, &loaded);
+    QString error = readDocument(document, &loaded);
     if (error.isEmpty()) {
         entries = loaded;
     }
