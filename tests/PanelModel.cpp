@@ -238,14 +238,16 @@ void PanelModel::hear(const QString &call)
         return;
     }
     expect(answer.mode == RuvoNodeWriteOnly || answer.mode == RuvoNodeReadWrite, QStringLiteral("not writable: %1").arg(call));
-    if (wrongValue(*found, answer).isEmpty() && call == writeOf(node, answer.value)) {
+    const QWidget *const editor = editorOf(*found);
+    const auto *const real = qobject_cast<const VyDoubleSpinBox *>(editor);
+    const QVariant own = real ? QVariant(answer.value.toFloat()) : answer.value;
+    if (wrongValue(*found, answer).isEmpty() && call == writeOf(node, own)) {
         return; // the device's own value, also where the editor cannot show it whole
     }
     QVariant seen;
-    const QWidget *const editor = editorOf(*found);
     if (const auto *const spin = qobject_cast<const VySpinBox *>(editor)) {
         seen = spin->value();
-    } else if (const auto *const real = qobject_cast<const VyDoubleSpinBox *>(editor)) {
+    } else if (real) {
         seen = float(real->value());
     } else if (const auto *const combo = qobject_cast<const VyComboBox *>(editor)) {
         seen = answer.entries.value(combo->currentIndex());
