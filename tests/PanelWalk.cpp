@@ -326,7 +326,8 @@ QString PanelWalk::clickButton()
 {
     QVector<QAbstractButton *> buttons;
     for (auto *const button : m_panel->findChildren<QAbstractButton *>()) {
-        buttons.insert(buttons.size(), button->isVisible() && !m_model->rowOf(button) ? 1 : 0, button);
+        const bool fits = button->isVisible() && !m_model->rowOf(button);
+        buttons.insert(buttons.size(), !fits ? 0 : button->width() < button->height() * 2 ? 4 : 1, button); // rather add or delete
     }
     QAbstractButton *const button = buttons.isEmpty() ? nullptr : pick(buttons);
     if (!button || !reveal(button)) {
@@ -527,6 +528,9 @@ void PanelWalk::changeNode()
             }
         }
         node.value = node.entries.isEmpty() || chance(10) ? pick(kEntries) : pick(node.entries);
+        if (name == "InputTriggerMode"_s && chance(60)) {
+            node.value = "Hold"_s; // all that there is to see
+        }
     } else if (node.type == RuvoNodeBoolean) {
         node.value = chance(50);
     } else {
