@@ -18,16 +18,7 @@ constexpr int kMaxReads = 10000;    // for one value, with all that it refers to
 constexpr int kMaxRegister = 65536; // bytes
 
 /// The elements that name a node whose value goes into the value of the node they stand in.
-bool isValueReference(const QString &element)
-{
-    for (const char *name : {"pValue", "pAddress", "pVariable", "pIndex", "pValueIndexed", "pValueDefault",
-                             "pLength", "pOffset"}) {
-        if (element == QLatin1String(name)) {
-            return true;
-        }
-    }
-    return false;
-}
+constexpr char kValueReferences[] = "pValue pAddress pVariable pIndex pValueIndexed pValueDefault pLength pOffset";
 
 /// Of an element or an attribute of GenICam. Other ones may be spelled as not every XML parser takes them.
 bool isName(const QString &text)
@@ -191,7 +182,7 @@ private:
             }
         } else if (element.size() > 1 && element[0] == QLatin1Char('p') && element[1].isUpper()) {
             m_references.append({closed.node, element, text});
-            if (isValueReference(element)) {
+            if (isOneOf(kValueReferences, element)) {
                 m_values[closed.node].append(text);
             }
         }

@@ -65,18 +65,15 @@ QAbstractItemView *openList(const QComboBox *combo)
     return list && list->isVisible() ? list : nullptr;
 }
 
-int highlightedRow(const QComboBox *combo)
+int highlightedRow(const QAbstractItemView *list)
 {
-    const auto *const list = openList(combo);
     return list ? list->currentIndex().row() : -1;
 }
 
 /// Highlights a row of an open list, and that of the current entry in place of a row that is not there.
-void highlight(const QComboBox *combo, int row)
+void highlight(QAbstractItemView *list, const QComboBox *combo, int row)
 {
-    if (auto *const list = openList(combo)) {
-        list->setCurrentIndex(list->model()->index(row < 0 ? combo->currentIndex() : row, combo->modelColumn()));
-    }
+    list->setCurrentIndex(list->model()->index(row < 0 ? combo->currentIndex() : row, combo->modelColumn()));
 }
 
 } // namespace
@@ -129,11 +126,14 @@ void ParamPageWidgetItem::retranslate()
     if (auto *const combo = qobject_cast<QComboBox *>(m_editor)) {
         const QSignalBlocker blocker(combo);
         const int index = combo->currentIndex();
-        const int highlighted = highlightedRow(combo);
+        auto *const list = openList(combo);
+        const int highlighted = highlightedRow(list);
         combo->clear();
         combo->addItems(translated(combo->property(kValueList).value<QList<QString>>()));
         combo->setCurrentIndex(index);
-        highlight(combo, highlighted);
+        if (list) {
+            highlight(list, combo, highlighted);
+        }
     } else if (auto *const button = qobject_cast<QPushButton *>(m_editor)) {
         button->setText(tr("Execute"));
     }
@@ -332,14 +332,17 @@ void ParamPageWidgetItem::readEnum()
     }
     auto *const combo = static_cast<VyComboBox *>(m_editor);
     const auto before = combo->property(kValueList).value<QList<QString>>();
-    const int highlighted = highlightedRow(combo);
+    auto *const list = openList(combo);
+    const int highlighted = highlightedRow(list);
     // Stored as the very type it is read back as: a QStringList in a QVariant reads back empty.
     combo->setProperty(kValueList, QVariant::fromValue<QList<QString>>(entries));
     const QSignalBlocker blocker(combo);
     combo->clear();
     combo->addItems(translated(entries));
     combo->setCurrentText(translated(value));
-    highlight(combo, entries == before ? highlighted : entries.indexOf(before.value(highlighted)));
+    if (list) {
+        highlight(list, combo, entries == before ? highlighted : entries.indexOf(before.value(highlighted)));
+    }
 }
 
 void ParamPageWidgetItem::readString()
