@@ -62,8 +62,7 @@ class AwkwardMomentsTest : public QObject
         m_model = std::make_unique<PanelModel>(m_device, m_panel);
         m_device.onCall = [this, judge = m_device.onCall](const QString &call) {
             judge(call);
-            const bool write = call.startsWith("set "_s) || call.startsWith("run "_s);
-            if (m_step && (m_skip < 0 ? write : call.endsWith(m_node) && m_skip-- == 0)) {
+            if (m_step && (m_skip < 0 ? ScriptedDevice::isWrite(call) : call.endsWith(m_node) && m_skip-- == 0)) {
                 std::exchange(m_step, nullptr)();
             }
         };

@@ -96,7 +96,7 @@ void PanelWalk::build()
     m_model->translated(m_translated);
     m_device.onCall = [this, judge = m_device.onCall](const QString &call) {
         judge(call);
-        if (onWrite && (call.startsWith("set "_s) || call.startsWith("run "_s))) {
+        if (onWrite && ScriptedDevice::isWrite(call)) {
             onWrite(m_device.node(call.mid(4).section(QLatin1Char('='), 0, 0)).answer.type);
         }
         if (m_callsToReaction >= 0 && m_callsToReaction-- == 0) {

@@ -59,7 +59,7 @@ QStringList ScriptedDevice::writes() const
 {
     QStringList found;
     for (const QString &call : calls) { // no pattern: with half a character in it a call would match none
-        if (call.startsWith(QLatin1String("set ")) || call.startsWith(QLatin1String("run "))) {
+        if (isWrite(call)) {
             found.append(call);
         }
     }

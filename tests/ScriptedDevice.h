@@ -53,6 +53,10 @@ public:
     long failure = -1; // the status of what fails
     QStringList calls;
     QStringList takeCalls();
+    static bool isWrite(const QString &call)
+    {
+        return call.startsWith(QLatin1String("set ")) || call.startsWith(QLatin1String("run "));
+    }
     /// What was written or run, without the reads.
     QStringList writes() const;
     /// The calls by which a row that is shown refreshes itself.
