@@ -10,7 +10,6 @@
 #include <VyCommonGUI/VyBlockWidget.h>
 #include <VyCommonGUI/VyToggleSwitch.h>
 #include <VyViewerCore/CoreEventBus.h>
-#include <VyViewerCore/IDeviceManager.h>
 
 #include <QAbstractItemView>
 #include <QLineEdit>
@@ -27,8 +26,6 @@ Q_DECLARE_METATYPE(Node)
 Q_DECLARE_METATYPE(Step)
 
 namespace {
-
-QString operator""_s(const char *text, std::size_t size) { return QString::fromUtf8(text, int(size)); }
 
 const QString kEdited = "TriggerStopConfig2FrameCount"_s, kMode = "InputTriggerMode"_s, kSource = "InputTriggerSource"_s,
               kPort = "TriggerTcpServerPort"_s, kUserSet = "UserSetLoad"_s, kGrab = "grab status"_s;
@@ -86,17 +83,12 @@ class AwkwardMomentsTest : public QObject
         (toggle ? toggle : editor)->setFocus();
         press(keys);
     }
-    void remove() const { PanelProbe::click(m_panel->findChildren<TriggerStopConfigWdg *>().at(2), "Delete"); }
     void tell(const QString &event)
     {
         QVariantMap payload = DeviceEvents::payload(&m_device);
         payload.insert("TriggerMode"_s, QVariant());
-        if (event == kGrab) {
-            const bool acquiring = m_device.node(kMode).mode != RuvoNodeReadWrite;
-            Q_EMIT Singleton<IDeviceManager>::getInstance()->deviceGrabStatusUpdate(&m_device, acquiring);
-        } else {
-            DeviceEvents::post(event, payload);
-        }
+        const bool acquiring = m_device.node(kMode).mode != RuvoNodeReadWrite;
+        event == kGrab ? grab(&m_device, acquiring) : DeviceEvents::post(event, payload);
     }
     /// Changes a node, or only its mode, and tells so.
     Step change(const QString &node, const QVariant &value, int mode, const QString &event = {})
@@ -180,7 +172,7 @@ private Q_SLOTS:
         show();
         m_step = change(kMode, {}, 3, kGrab);
         for (int i = 0; i < 2; ++i) { // the second click comes too late
-            PanelProbe::click(m_panel, "Add");
+            click(m_panel, "Add");
         }
         QCOMPARE(m_device.writes(), QStringList{"set TriggerStopConfig4Enable=true"_s});
         for (const auto *page : m_panel->findChildren<TriggerStopConfigWdg *>()) {
@@ -249,8 +241,8 @@ private Q_SLOTS:
             const Step step = [this, keys = edit.keys] { press(kEdited, keys); };
             QTest::addRow("write of %s", edit.name) << QString() << edit.node << false << step;
         }
-        const Step addition = [this] { PanelProbe::click(m_panel, "Add"); };
-        const Step deletion = [this] { remove(); };
+        const Step addition = [this] { click(m_panel, "Add"); };
+        const Step deletion = [this] { click(m_panel->findChildren<TriggerStopConfigWdg *>().at(2), "Delete"); };
         QTest::newRow("addition") << QString() << Node() << false << addition;
         QTest::newRow("deletion") << QString() << Node() << false << deletion;
         QTest::newRow("addition's event") << "TriggerStopConditionEvent" << Node() << false << addition;

@@ -1,11 +1,13 @@
 #pragma once
 
+#include "Literal.h"
+
 #include <VyViewerCore/Device.h>
 
 #include <QProcess>
 
 /// The node by which the tests see what a camera holds, and its value; -1 when it cannot be read.
-const QString kDelay = QStringLiteral("InputTriggerDelay");
+const QString kDelay = "InputTriggerDelay"_s;
 
 inline float delayOf(Device *device)
 {

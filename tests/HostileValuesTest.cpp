@@ -15,11 +15,9 @@ Q_DECLARE_METATYPE(Node)
 
 namespace {
 
-QString operator""_s(const char16_t *text, std::size_t size) { return QString::fromUtf16(text, int(size)); }
+const QString kRow = "TriggerTcpClientServerIp"_s;
 
-const QString kRow = u"TriggerTcpClientServerIp"_s;
-
-QStringList write(const QVariant &value) { return {QStringLiteral("set %1=%2").arg(kRow, value.toString())}; }
+QStringList write(const QVariant &value) { return {"set %1=%2"_s.arg(kRow, value.toString())}; }
 
 } // namespace
 
@@ -59,24 +57,29 @@ private Q_SLOTS:
         number("largest", most, 0, double(most), double(least), mostText, most, most);
         number("smallest", least, 0, 1, 0.5, "0.000000000000000000000000000000000000000000001", least, 0.5F);
 
+        number("fine step", 12.3F, 0, 100, double(0.0005F), "12.3000", 12.3F, 12.3005F);
+        number("step too fine to show", 12.3F, 0, 100, 1e-12, "12.3000000", 12.3F, 12.3F);
+        number("nano", 1e-9F, 0, 1, 1, "0.000000001", 1e-9F, 1.F);
+        number("many digits", 123456.789F, 0, 1e6, 1, "123456.789", 123456.789F, 123457.789F);
+
         const auto entries = [](const char *name, const QStringList &list, const QString &value, const QString &shown) {
             QTest::addRow("entries: %s", name) << Node{RuvoNodeEnumeration, value, list} << shown << QStringList()
                                                << (list.isEmpty() ? list : write(list.last()));
         };
         const struct { const char *name; QString text; } texts[] = {
-            {"empty", {}}, {"NUL", u"a\0b"_s}, {"markup", u"<b>x</b>&lt;&File\t<img src=x>"_s},
-            {"newlines", u"a\r\nb\u2028c\n"_s}, {"right to left", u"\u202e\u05d0b\u0661"_s},
-            {"astral", u"\U0001f600"_s}, {"half a character", QChar(0xd800)}, {"megabyte", QString(1 << 20, u'W')},
+            {"empty", {}}, {"NUL", "a\0b"_s}, {"markup", "<b>x</b>&lt;&File\t<img src=x>"_s},
+            {"newlines", "a\r\nb\u2028c\n"_s}, {"right to left", "\u202e\u05d0b\u0661"_s},
+            {"astral", "\U0001f600"_s}, {"half a character", QChar(0xd800)}, {"megabyte", QString(1 << 20, u'W')},
         };
         for (const auto &[name, text] : texts) {
-            entries(name, {u"a\0c"_s, text + u'1', QChar(0xdc00), text, u"last\0"_s}, text, text);
+            entries(name, {"a\0c"_s, text + u'1', QChar(0xdc00), text, "last\0"_s}, text, text);
             QTest::addRow("text: %s", name) << Node{RuvoNodeString, text} << text.left(SHRT_MAX) << write(text)
                                             << write(text.size() < SHRT_MAX ? u'x' + text : text); // no more goes in
         }
         entries("many", QString(9999, u',').split(u','), {}, {});
-        entries("none", {}, u"x"_s, {});
-        entries("the same twice", {u"x"_s, u"y"_s, u"y"_s, u"z"_s}, u"y"_s, u"y"_s);
-        entries("not the current one", {u"x"_s, u"y"_s}, u"z"_s, u"x"_s);
+        entries("none", {}, "x"_s, {});
+        entries("the same twice", {"x"_s, "y"_s, "y"_s, "z"_s}, "y"_s, "y"_s);
+        entries("not the current one", {"x"_s, "y"_s}, "z"_s, "x"_s);
     }
     void anyAnswer()
     {
@@ -128,7 +131,7 @@ private Q_SLOTS:
         QTEST(device.writes(), "kept"); // and nothing before
         device.takeCalls();
         QTest::keyClick(editor, box ? Qt::Key_End : node.type == RuvoNodeString ? Qt::Key_Home : Qt::Key_Up);
-        QTest::keyClicks(editor, node.type == RuvoNodeString ? u"x"_s : QString());
+        QTest::keyClicks(editor, node.type == RuvoNodeString ? "x"_s : QString());
         QTest::keyClick(editor, Qt::Key_Return);
         QTEST(device.writes(), "edited");
     }
@@ -141,7 +144,7 @@ private Q_SLOTS:
         panel.resize(800, 900);
         panel.show();
         QCoreApplication::processEvents(); // editors become visible by a queued call
-        auto *const row = PanelProbe::row(&panel, u"TriggerSerialPortBaudrate"_s);
+        auto *const row = PanelProbe::row(&panel, "TriggerSerialPortBaudrate"_s);
         const auto picture = [&](const QString &text) {
             device.node(row->objectName()) = {RuvoNodeEnumeration, text, {text}};
             row->refresh();

@@ -31,20 +31,20 @@ const struct { const char *source; const char *title; } kTitles[] = {
 
 QString writeOf(const QString &node, const QVariant &value)
 {
-    return QStringLiteral("set %1=%2").arg(node, value.toString());
+    return "set %1=%2"_s.arg(node, value.toString());
 }
 
 /// The page of a node, by the beginning of its nodes' names.
 QString pageOf(const QString &node)
 {
-    const QString stop = QStringLiteral("TriggerStopConfig");
+    const QString stop = "TriggerStopConfig"_s;
     return node.startsWith(stop) ? node.left(stop.size() + 1) : QString();
 }
 
 /// The pages ask about these themselves.
 bool isSharedNode(const QString &node)
 {
-    return node.endsWith(QLatin1String("CMDFormat")) || node == QLatin1String(kMode) || node == QLatin1String(kSource);
+    return node.endsWith("CMDFormat"_s) || node == QLatin1String(kMode) || node == QLatin1String(kSource);
 }
 
 bool isShown(RuvoNodeAccessMode mode)
@@ -155,9 +155,9 @@ QStringList PanelModel::check()
         checkRow(row);
     }
     for (const QString &node : qAsConst(m_required)) {
-        expect(m_written.contains(node), QStringLiteral("the finished edit of %1 was not written").arg(node));
+        expect(m_written.contains(node), "the finished edit of %1 was not written"_s.arg(node));
     }
-    expect(!m_silent || m_device.calls.isEmpty(), QStringLiteral("the device was called: %1").arg(m_device.calls.value(0)));
+    expect(!m_silent || m_device.calls.isEmpty(), "the device was called: %1"_s.arg(m_device.calls.value(0)));
 
     const auto titles = m_panel->findChildren<VyMultiCheckTitleWidget *>();
     for (const auto *title : titles) {
@@ -165,25 +165,25 @@ QStringList PanelModel::check()
         for (const auto &known : kTitles) {
             if (m_title && text == m_prefix + QLatin1String(known.title)) {
                 expect(title->isHidden() != (*m_title == QLatin1String(known.source)),
-                       QStringLiteral("title %1, source %2").arg(text, *m_title));
+                       "title %1, source %2"_s.arg(text, *m_title));
             }
         }
     }
     if (m_stopShown) {
-        expect(m_stopBlock->isHidden() != *m_stopShown, QStringLiteral("the stop block's visibility"));
+        expect(m_stopBlock->isHidden() != *m_stopShown, "the stop block's visibility"_s);
     }
     for (int i = 0; i < m_stopPages.size(); ++i) {
         const TriggerStopConfigWdg *const page = m_stopPages.at(i);
         if (m_pagesShown) {
-            expect(page->isHidden() != m_pagesShown->at(i), QStringLiteral("the visibility of stop page %1").arg(i + 1));
+            expect(page->isHidden() != m_pagesShown->at(i), "the visibility of stop page %1"_s.arg(i + 1));
         }
         if (m_acquiring) {
             expect(page->findChild<VyMultiCheckTitleWidget *>()->testAttribute(Qt::WA_ForceDisabled) == *m_acquiring,
-                   QStringLiteral("the lock of stop page %1").arg(i + 1));
+                   "the lock of stop page %1"_s.arg(i + 1));
         }
     }
     if (m_acquiring) {
-        expect(m_stopBlock->signalsBlocked() == *m_acquiring, QStringLiteral("the lock of the add button"));
+        expect(m_stopBlock->signalsBlocked() == *m_acquiring, "the lock of the add button"_s);
     }
     return m_faults;
 }
@@ -199,40 +199,38 @@ bool PanelModel::eventFilter(QObject *watched, QEvent *event)
 /// Judges a write at the moment it is made: whether the user made it, and whether it is what he sees.
 void PanelModel::hear(const QString &call)
 {
-    const QString asked = call.section(QLatin1Char(' '), 1);
+    const QString asked = call.section(u' ', 1);
     if (isSharedNode(asked)) {
         m_asked.insert(asked);
-    } else if (call.startsWith(QLatin1String("mode ")) && (call.endsWith(QLatin1String("Delay")) || call.endsWith(QLatin1String("FrameCount")))) {
+    } else if (call.startsWith("mode "_s) && (call.endsWith("Delay"_s) || call.endsWith("FrameCount"_s))) {
         m_refreshed.insert(pageOf(asked)); // rows that are read with their whole page only
     }
     if (!ScriptedDevice::isWrite(call)) {
         return;
     }
-    const bool isRun = call.startsWith(QLatin1String("run "));
+    const bool isRun = call.startsWith("run "_s);
     const bool isSwitch = m_writable.contains(call); // of a stop page
-    const QString node = isSwitch ? call : call.mid(4).section(QLatin1Char('='), 0, 0);
+    const QString node = isSwitch ? call : call.mid(4).section(u'=', 0, 0);
     m_written.append(node);
-    expect(m_written.count(node) <= m_writable.value(node), QStringLiteral("nobody has finished an edit: %1").arg(call));
+    expect(m_written.count(node) <= m_writable.value(node), "nobody has finished an edit: %1"_s.arg(call));
     if (isSwitch) {
         return;
     }
-    const auto found = std::find_if(m_rows.cbegin(), m_rows.cend(), [&node](const ParamPageWidgetItem *row) {
-        return row->objectName() == node;
-    });
-    if (found == m_rows.cend()) {
-        expect(false, QStringLiteral("no row writes %1").arg(call));
+    const ParamPageWidgetItem *const row = PanelProbe::row(m_panel, node);
+    if (!row) {
+        expect(false, "no row writes %1"_s.arg(call));
         return;
     }
-    touch(*found); // the device may hold another value now
+    touch(row); // the device may hold another value now
     const ScriptedDevice::Node::Answer &answer = m_device.node(node).answer;
     if (m_doubtful.contains(node)) {
         return;
     }
-    expect(answer.mode == RuvoNodeWriteOnly || answer.mode == RuvoNodeReadWrite, QStringLiteral("not writable: %1").arg(call));
-    const QWidget *const editor = editorOf(*found);
+    expect(answer.mode == RuvoNodeWriteOnly || answer.mode == RuvoNodeReadWrite, "not writable: %1"_s.arg(call));
+    const QWidget *const editor = editorOf(row);
     const auto *const real = qobject_cast<const VyDoubleSpinBox *>(editor);
     const QVariant own = real ? QVariant(answer.value.toFloat()) : answer.value;
-    if (wrongValue(*found, answer).isEmpty() && call == writeOf(node, own)) {
+    if (wrongValue(row, answer).isEmpty() && call == writeOf(node, own)) {
         return; // the device's own value, also where the editor cannot show it whole
     }
     QVariant seen;
@@ -243,13 +241,13 @@ void PanelModel::hear(const QString &call)
     } else if (const auto *const combo = qobject_cast<const VyComboBox *>(editor)) {
         seen = answer.entries.value(combo->currentIndex());
         expect(m_prefix + seen.toString() == combo->currentText() || combo->currentText().isEmpty(),
-               QStringLiteral("%1 shows %2").arg(node, combo->currentText()));
+               "%1 shows %2"_s.arg(node, combo->currentText()));
     } else if (const auto *const edit = qobject_cast<const VyLineEdit *>(editor)) {
         seen = edit->text();
     } else if (!isRun) {
         seen = editor->findChild<VyToggleSwitch *>()->getIsToggled();
     }
-    expect(isRun || call == writeOf(node, seen), QStringLiteral("%1, and the user sees %2").arg(call, seen.toString()));
+    expect(isRun || call == writeOf(node, seen), "%1, and the user sees %2"_s.arg(call, seen.toString()));
 }
 
 /// Whether the row has an editor of the node's kind, which is fixed when it is first shown.
@@ -292,10 +290,10 @@ void PanelModel::decide()
         return;
     }
     if (m_shown.contains(m_triggerPage) || modeWritten || m_written.contains(QLatin1String(kSource))) {
-        m_title = current(kMode) == QLatin1String("None") ? QStringLiteral("none") : current(kSource);
+        m_title = current(kMode) == "None"_s ? "none"_s : current(kSource);
     }
     if (m_shown.contains(m_panel) || modeWritten) {
-        m_stopShown = current(kMode) == QLatin1String("Hold");
+        m_stopShown = current(kMode) == "Hold"_s;
     }
     if (m_shown.contains(m_panel)) {
         m_acquiring = m_device.node(kMode).mode != RuvoNodeReadWrite;
@@ -322,19 +320,19 @@ void PanelModel::checkRow(const ParamPageWidgetItem *row)
     const ScriptedDevice::Node::Answer &answer = m_device.node(node).answer;
     const QWidget *const editor = editorOf(row);
     expect(m_reacted || !m_written.contains(node) || !row->parentWidget()->isVisible() || m_refreshed.contains(pageOf(node)),
-           QStringLiteral("the page was not read again after %1 was written").arg(node));
+           "the page was not read again after %1 was written"_s.arg(node));
     if (answer.modes == 0 || m_doubtful.contains(row->objectName())) {
         return;
     }
     if (!editor) {
-        expect(false, QStringLiteral("%1 was read before it was shown").arg(row->objectName()));
+        expect(false, "%1 was read before it was shown"_s.arg(row->objectName()));
         return;
     }
-    const QString named = QStringLiteral("%1, mode %2: %3").arg(row->objectName()).arg(answer.mode);
-    expect(row->isHidden() != isShown(answer.mode), named.arg(QLatin1String("its visibility")));
+    const QString named = "%1, mode %2: %3"_s.arg(row->objectName()).arg(answer.mode);
+    expect(row->isHidden() != isShown(answer.mode), named.arg("its visibility"_s));
     if (isShown(answer.mode)) {
         expect(editor->testAttribute(Qt::WA_ForceDisabled) == (answer.mode == RuvoNodeReadOnly),
-               named.arg(QLatin1String("whether it can be edited")));
+               named.arg("whether it can be edited"_s));
     }
     if (answer.values > 0 && isBound(row) && !isTouched(row->objectName())) {
         const QString wrong = wrongValue(row, answer);
@@ -346,7 +344,7 @@ void PanelModel::checkRow(const ParamPageWidgetItem *row)
 QString PanelModel::wrongValue(const ParamPageWidgetItem *row, const ScriptedDevice::Node::Answer &answer) const
 {
     const auto differs = [](const QVariant &seen, const QVariant &expected) {
-        return seen == expected ? QString() : QStringLiteral("shows \"%1\", not \"%2\"").arg(seen.toString(), expected.toString());
+        return seen == expected ? QString() : "shows \"%1\", not \"%2\""_s.arg(seen.toString(), expected.toString());
     };
     const QWidget *const editor = editorOf(row);
     if (const auto *const spin = qobject_cast<const VySpinBox *>(editor)) {
@@ -369,7 +367,7 @@ QString PanelModel::wrongValue(const ParamPageWidgetItem *row, const ScriptedDev
             entries.append(entry.isEmpty() ? entry : m_prefix + entry);
         }
         if (seen != entries) {
-            return QStringLiteral("lists \"%1\", not \"%2\"").arg(seen.join(QLatin1Char('|')), entries.join(QLatin1Char('|')));
+            return "lists \"%1\", not \"%2\""_s.arg(seen.join(u'|'), entries.join(u'|'));
         }
         const int index = answer.entries.indexOf(answer.value.toString());
         return differs(combo->currentIndex(), entries.isEmpty() ? -1 : qMax(0, index));

@@ -4,6 +4,7 @@
 
 #include <VyCommonGUI/VyComboBox.h>
 #include <VyCommonGUI/VyMultiCheckTitleWidget.h>
+#include <VyViewerCore/IDeviceManager.h>
 
 #include <QAbstractButton>
 #include <QLabel>
@@ -47,6 +48,12 @@ inline QStringList shownTitles(const QWidget *in)
         }
     }
     return titles;
+}
+
+/// Tells the panels that a device starts (not 0) or stops acquiring.
+inline void grab(Device *device, int status)
+{
+    Q_EMIT VyViewer::Singleton<VyViewer::IDeviceManager>::getInstance()->deviceGrabStatusUpdate(device, status);
 }
 
 /// Clicks the visible button whose tool tip begins so.

@@ -7,7 +7,6 @@
 #include <VyCommonGUI/VyLineEdit.h>
 #include <VyCommonGUI/VyScrollArea.h>
 #include <VyCommonGUI/VyToggleSwitch.h>
-#include <VyViewerCore/IDeviceManager.h>
 
 #include <QAbstractSpinBox>
 #include <QApplication>
@@ -18,12 +17,6 @@
 #include <thread>
 
 using namespace VyViewer;
-
-namespace {
-
-QString operator""_s(const char *text, std::size_t size) { return QString::fromUtf8(text, int(size)); }
-
-} // namespace
 
 const PanelWalk::Action PanelWalk::kActions[] = {
     {25, &PanelWalk::clickRow}, {4, &PanelWalk::pressOrRelease}, {30, &PanelWalk::key}, {20, &PanelWalk::list},
@@ -79,7 +72,7 @@ QString PanelWalk::step(int number)
         for (int i = 0; i < 20; ++i) {
             post(&name);
         }
-        emitGrab(&m_device, 1);
+        PanelProbe::grab(&m_device, 1);
         if (!m_device.calls.isEmpty()) {
             m_faults.append("the destroyed panel calls %1"_s.arg(m_device.calls.first()));
         }
@@ -97,7 +90,7 @@ void PanelWalk::build()
     m_device.onCall = [this, judge = m_device.onCall](const QString &call) {
         judge(call);
         if (onWrite && ScriptedDevice::isWrite(call)) {
-            onWrite(m_device.node(call.mid(4).section(QLatin1Char('='), 0, 0)).answer.type);
+            onWrite(m_device.node(call.mid(4).section(u'=', 0, 0)).answer.type);
         }
         if (m_callsToReaction >= 0 && m_callsToReaction-- == 0) {
             react();
@@ -379,11 +372,6 @@ QString PanelWalk::event()
     return "event %1"_s.arg(name);
 }
 
-void PanelWalk::emitGrab(Device *device, int status) const
-{
-    Q_EMIT Singleton<IDeviceManager>::getInstance()->deviceGrabStatusUpdate(device, status);
-}
-
 QString PanelWalk::grab()
 {
     static constexpr int kStatuses[] = {0, 0, 1, 7, -1};
@@ -396,9 +384,9 @@ QString PanelWalk::grab()
         m_model->mustNotCall();
     }
     if (chance(50)) {
-        emitGrab(device, status);
+        PanelProbe::grab(device, status);
     } else {
-        std::thread([&] { emitGrab(device, status); }).join();
+        std::thread([&] { PanelProbe::grab(device, status); }).join();
     }
     return "grab status %1"_s.arg(status);
 }
@@ -489,7 +477,8 @@ void PanelWalk::changeNode()
 {
     static constexpr int kNumbers[] = {0, 7, -1, 100, 65535, std::numeric_limits<int>::max(), std::numeric_limits<int>::min()};
     static const QString kTexts[] = {
-        QString(), "0aF9"_s, "a\nb"_s, "<b>x</b>"_s, "&File"_s, "\u00fc\u6f22\U0001F600"_s, "\u202eabc"_s, QString(300, QLatin1Char('x')),
+        QString(), "0aF9"_s, "a\nb"_s, "<b>x</b>"_s, "&File"_s, "\u00fc\u6f22\U0001F600"_s, "\u202eabc"_s,
+        QString(300, u'x'),
     };
     static const QString kEntries[] = {
         "None"_s, "Hold"_s, "Once"_s, "TcpServer"_s, "TcpClient"_s, "Udp"_s, "RS-232"_s, "AutoTrigger"_s, "SensingTrigger"_s,
@@ -569,7 +558,7 @@ void PanelWalk::react()
         break;
     case 2:
         changeNode();
-        emitGrab(&m_device, below(2));
+        PanelProbe::grab(&m_device, below(2));
         break;
     case 3:
         m_panel->deleteLater();

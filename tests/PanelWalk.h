@@ -67,7 +67,6 @@ private:
     void mayLeave();
     void mayPress(const QAbstractButton *button);
     bool post(QString *name);
-    void emitGrab(Device *device, int status) const;
     void changeNode();
     void react();
 

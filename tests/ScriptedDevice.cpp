@@ -6,7 +6,7 @@ namespace {
 
 QList<QString> words(const char *text)
 {
-    return QString::fromLatin1(text).split(QLatin1Char(' '));
+    return QString::fromLatin1(text).split(u' ');
 }
 
 ScriptedDevice::Node guessed(const QString &name)
@@ -16,12 +16,12 @@ ScriptedDevice::Node guessed(const QString &name)
         const char *pattern;
         ScriptedDevice::Node node;
     } guesses[] = {
-        {"TriggerMode$", {RuvoNodeEnumeration, QStringLiteral("None"), words("None Hold Once")}},
-        {"TriggerSource$", {RuvoNodeEnumeration, QStringLiteral("SoftwareTrigger"),
+        {"TriggerMode$", {RuvoNodeEnumeration, "None"_s, words("None Hold Once")}},
+        {"TriggerSource$", {RuvoNodeEnumeration, "SoftwareTrigger"_s,
                             words("SoftwareTrigger TcpServer TcpClient Udp RS-232 AutoTrigger")}},
-        {"CMDFormat$", {RuvoNodeEnumeration, QStringLiteral("String"), words("String Hex")}},
-        {"(Condtion|Baudrate|Flowcontrol|bit)$", {RuvoNodeEnumeration, QStringLiteral("First"), words("First Second")}},
-        {"(CMD|Ip)$", {RuvoNodeString, QStringLiteral("text")}},
+        {"CMDFormat$", {RuvoNodeEnumeration, "String"_s, words("String Hex")}},
+        {"(Condtion|Baudrate|Flowcontrol|bit)$", {RuvoNodeEnumeration, "First"_s, words("First Second")}},
+        {"(CMD|Ip)$", {RuvoNodeString, "text"_s}},
         {"(Enable|Matching|Match|Follow|Key\\w*)$", {RuvoNodeBoolean, false}},
         {"Delay$", {RuvoNodeFloat, 1.5F}},
         {"SoftwareTrigger$", {RuvoNodeCommand, QVariant()}},
@@ -68,7 +68,7 @@ QStringList ScriptedDevice::writes() const
 
 QStringList ScriptedDevice::refreshOf(const QString &name)
 {
-    return {QStringLiteral("mode ") + name, QStringLiteral("get ") + name};
+    return {"mode "_s + name, "get "_s + name};
 }
 
 long ScriptedDevice::getParamEnum(const QString &name, QString &value, QList<QString> &entries)
@@ -82,20 +82,20 @@ long ScriptedDevice::getParamEnum(const QString &name, QString &value, QList<QSt
 
 long ScriptedDevice::executeCMD(const QString &name)
 {
-    note(QStringLiteral("run ") + name);
+    note("run "_s + name);
     return node(name).refusesWrites ? failure : 0;
 }
 
 RuvoNodeType ScriptedDevice::getNodeType(const QString &name)
 {
-    note(QStringLiteral("type ") + name);
+    note("type "_s + name);
     Node &asked = node(name);
     return asked.answer.type = asked.type;
 }
 
 RuvoNodeAccessMode ScriptedDevice::getNodeAccessMode(const QString &name)
 {
-    note(QStringLiteral("mode ") + name);
+    note("mode "_s + name);
     Node &asked = node(name);
     ++asked.answer.modes;
     return asked.answer.mode = asked.mode;
@@ -112,7 +112,7 @@ void ScriptedDevice::note(const QString &call)
 template <typename Value>
 long ScriptedDevice::read(const QString &name, Value &value)
 {
-    note(QStringLiteral("get ") + name);
+    note("get "_s + name);
     Node &asked = node(name);
     if (asked.failsReads) {
         return failure;
@@ -143,7 +143,7 @@ template long ScriptedDevice::readNumber(const QString &, float &, float &, floa
 
 long ScriptedDevice::write(const QString &name, const QVariant &value)
 {
-    note(QStringLiteral("set %1=%2").arg(name, value.toString()));
+    note("set %1=%2"_s.arg(name, value.toString()));
     if (node(name).refusesWrites) {
         return failure;
     }

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "Literal.h"
+
 #include <VyViewerCore/Device.h>
 
 #include <QHash>
@@ -55,7 +57,7 @@ public:
     QStringList takeCalls();
     static bool isWrite(const QString &call)
     {
-        return call.startsWith(QLatin1String("set ")) || call.startsWith(QLatin1String("run "));
+        return call.startsWith("set "_s) || call.startsWith("run "_s);
     }
     /// What was written or run, without the reads.
     QStringList writes() const;

@@ -32,7 +32,7 @@ public:
 
 QStringList words(const char *text)
 {
-    return QString::fromUtf8(text).split(QLatin1Char(' '));
+    return QString::fromUtf8(text).split(u' ');
 }
 
 /// "NODE=VALUE NODE=VALUE", of the types that the device has.
@@ -41,9 +41,9 @@ SettingsFile settingsOf(Device &device, const char *text)
     SettingsFile settings;
     const QStringList nodes = words(text);
     for (const QString &node : nodes) {
-        const QString name = node.section(QLatin1Char('='), 0, 0);
+        const QString name = node.section(u'=', 0, 0);
         const RuvoNodeType type = device.getNodeType(name);
-        settings.entries.append({name, type, SettingsFile::fromText(node.section(QLatin1Char('='), 1), type)});
+        settings.entries.append({name, type, SettingsFile::fromText(node.section(u'=', 1), type)});
     }
     return settings;
 }
@@ -51,7 +51,7 @@ SettingsFile settingsOf(Device &device, const char *text)
 /// The reasons why not everything was taken.
 QStringList apply(Device &device, const SettingsFile &settings)
 {
-    SettingsApplier applier(device, settings, [] { return QStringLiteral("no\nway"); });
+    SettingsApplier applier(device, settings, [] { return "no\nway"_s; });
     while (applier.step()) {
     }
     QStringList reasons;
@@ -59,7 +59,7 @@ QStringList apply(Device &device, const SettingsFile &settings)
     for (const auto &problem : problems) {
         reasons.append(problem.reason);
     }
-    return applier.done() == applier.total() ? reasons : QStringList{QStringLiteral("not done")};
+    return applier.done() == applier.total() ? reasons : QStringList{"not done"_s};
 }
 
 } // namespace
@@ -79,7 +79,7 @@ class SettingsTest : public QObject
     {
         QFile written(file("written.json"));
         return written.open(QIODevice::WriteOnly) && written.write(text) == text.size() && written.flush()
-                   ? settings->load(written.fileName()) : QStringLiteral("not written");
+                   ? settings->load(written.fileName()) : "not written"_s;
     }
 
     QTemporaryDir m_folder;
@@ -113,7 +113,7 @@ private Q_SLOTS:
             std::mt19937 random(1);
             for (int order = 0; order < 3; ++order) { // as saved, and two others
                 const auto other = GenicamDevice::openBuiltIn({}, nullptr);
-                other->setParamEnum(QStringLiteral("InputTriggerSource"), QStringLiteral("AutoTrigger"));
+                other->setParamEnum("InputTriggerSource"_s, "AutoTrigger"_s);
                 QCOMPARE(apply(*other, loaded), QStringList());
                 QCOMPARE(SettingsFile::read(*other, other->nodes()).save(file("b.json")), QString());
                 QCOMPARE(contents(file("b.json")), contents(file("a.json")));
@@ -137,7 +137,7 @@ private Q_SLOTS:
         using Float = std::numeric_limits<float>;
         for (const float value : {0.0F, 0.1F, 1.0F / 3, -7.0385307e-26F, Float::max(), Float::denorm_min()}) {
             SettingsFile settings;
-            settings.entries = {{QStringLiteral("InputTriggerDelay"), RuvoNodeFloat, value}};
+            settings.entries = {{"InputTriggerDelay"_s, RuvoNodeFloat, value}};
             QCOMPARE(settings.save(file("float.json")), QString());
             QCOMPARE(settings.load(file("float.json")), QString());
             QVERIFY2(settings.entries.constFirst().value.toFloat() == value, contents(file("float.json")));
@@ -149,7 +149,7 @@ private Q_SLOTS:
         const auto check = [this](const QByteArray &text, const char *named) {
             SettingsFile settings;
             const QString error = load(text, &settings);
-            QVERIFY2(error.contains(QLatin1String(named)) && !error.contains(QLatin1Char('\n')), qPrintable(error));
+            QVERIFY2(error.contains(QLatin1String(named)) && !error.contains(u'\n'), qPrintable(error));
             QVERIFY2(settings.entries.isEmpty(), named);
         };
         const auto edited = [&](const char *right, const char *wrong, const char *named) {
@@ -207,10 +207,10 @@ private Q_SLOTS:
         const SettingsFile read = SettingsFile::read(
             device, words("Width TriggerA TriggerB TriggerSoftwareTrigger TriggerDelay TriggerC TriggerD"));
         QCOMPARE(read.unread, words("TriggerB TriggerDelay"));
-        QVERIFY(read.entries.size() == 2 && read.entries.at(1).node == QLatin1String("TriggerD"));
+        QVERIFY(read.entries.size() == 2 && read.entries.at(1).node == "TriggerD"_s);
 
         device.react = [&device](const QString &node) { // lost meanwhile, which is not to have few settings
-            device.node("TriggerA").failsReads = node == QLatin1String("TriggerD");
+            device.node("TriggerA").failsReads = node == "TriggerD"_s;
             device.node("TriggerD").mode = RuvoNodeNotAvailable;
         };
         QCOMPARE(SettingsFile::read(device, words("TriggerA TriggerD")).unread, words("TriggerA"));
@@ -221,14 +221,13 @@ private Q_SLOTS:
         const auto camera = GenicamDevice::openBuiltIn({}, nullptr);
         SettingsFile settings = settingsOf(*camera, "TriggerUdpPort=99999 TriggerTcpServerPort=5 TriggerCount=3 "
                                                     "TriggerUdpStartCMD=go InputTriggerSource=Udp");
-        settings.entries.append({QStringLiteral("TriggerBogus"), RuvoNodeString, QStringLiteral("a\nb")});
-        settings.entries.append({QStringLiteral("InputTriggerCache"), RuvoNodeFloat, 2.5F});
-        QCOMPARE(apply(*camera, settings),
-                 QStringList({QStringLiteral("TriggerUdpPort = 99999: refused (no way)"),
-                              QStringLiteral("TriggerTcpServerPort = 5: cannot be written in the present mode"),
-                              QStringLiteral("TriggerCount = 3: can only be read now (is the camera acquiring?)"),
-                              QStringLiteral("TriggerBogus = \"a\\nb\": this camera has no such node"),
-                              QStringLiteral("InputTriggerCache = 2.5: this node of the camera is of another type")}));
+        settings.entries.append({"TriggerBogus"_s, RuvoNodeString, "a\nb"_s});
+        settings.entries.append({"InputTriggerCache"_s, RuvoNodeFloat, 2.5F});
+        QCOMPARE(apply(*camera, settings), QStringList({"TriggerUdpPort = 99999: refused (no way)"_s,
+                              "TriggerTcpServerPort = 5: cannot be written in the present mode"_s,
+                              "TriggerCount = 3: can only be read now (is the camera acquiring?)"_s,
+                              "TriggerBogus = \"a\\nb\": this camera has no such node"_s,
+                              "InputTriggerCache = 2.5: this node of the camera is of another type"_s}));
     }
 
     void writesNoMoreThanIsNeeded()
@@ -239,16 +238,15 @@ private Q_SLOTS:
         device.node("E").failsReads = true;
         device.node("F").mode = RuvoNodeReadOnly;
         device.react = [&device](const QString &node) {
-            if (node == QLatin1String("E") && device.node("C").mode == RuvoNodeNotAvailable) { // after D was written
+            if (node == "E"_s && device.node("C").mode == RuvoNodeNotAvailable) { // after D was written
                 device.node("C").mode = RuvoNodeReadWrite;
                 device.node("A").value = device.node("B").value = 0;
             }
         };
         const char *const values = "A=7 B=8 C=9 D=10 E=7 F=7 InputTriggerSource=Udp InputTriggerMode=Hold";
         QCOMPARE(apply(device, settingsOf(device, values)), QStringList());
-        QCOMPARE(device.writes().join(QLatin1Char(',')),
-                 QStringLiteral("set InputTriggerMode=Hold,set InputTriggerSource=Udp,"
-                                "set B=8,set D=10,set E=7,set A=7,set B=8,set C=9"));
+        QCOMPARE(device.writes().join(u','), "set InputTriggerMode=Hold,set InputTriggerSource=Udp,"
+                                "set B=8,set D=10,set E=7,set A=7,set B=8,set C=9"_s);
     }
 
     void whatTheCameraChangesAgainIsReported()
@@ -257,8 +255,7 @@ private Q_SLOTS:
         device.node("B").failsReads = true;
         device.react = [&device](const QString &) { device.node("A").value = 5; };
         QCOMPARE(apply(device, settingsOf(device, "A=8 B=9 TriggerDelay=1.5")),
-                 QStringList({QStringLiteral("A = 8: the camera holds 5 instead"),
-                              QStringLiteral("B = 9: cannot be read back (no way)")}));
+                 QStringList({"A = 8: the camera holds 5 instead"_s, "B = 9: cannot be read back (no way)"_s}));
         QCOMPARE(device.writes().size(), 4);
     }
 
@@ -266,19 +263,19 @@ private Q_SLOTS:
     {
         ReactingDevice device;
         device.react = [&device](const QString &node) {
-            if (node == QLatin1String("B")) {
+            if (node == "B"_s) {
                 device.node("B").refusesWrites = device.node("InputTriggerMode").failsReads = true;
                 device.calls.clear();
             }
         };
         QCOMPARE(apply(device, settingsOf(device, "A=1 B=2 C=3 D=4"))
-                     .filter(QStringLiteral(": the camera no longer answers (no way)")).size(), 4);
+                     .filter(": the camera no longer answers (no way)"_s).size(), 4);
 
         ReactingDevice before; // lost when it begins
         before.node("InputTriggerMode").failsReads = true;
         before.node("A").mode = RuvoNodeNotAvailable;
-        QCOMPARE(apply(before, settingsOf(before, "A=1")), QStringList(QStringLiteral("A = 1: cannot be written (no way)")));
-        QVERIFY2(device.calls.size() <= 4, qPrintable(device.calls.join(QLatin1Char(','))));
+        QCOMPARE(apply(before, settingsOf(before, "A=1")), QStringList("A = 1: cannot be written (no way)"_s));
+        QVERIFY2(device.calls.size() <= 4, qPrintable(device.calls.join(u',')));
     }
 
     void canBeLeftAtAnyStep()
@@ -291,7 +288,7 @@ private Q_SLOTS:
         QVERIFY(applier.step() && applier.step() && applier.step());
         QVERIFY(device.writes().size() == 3 && applier.done() == 3);
         QCOMPARE(applier.problems().size(), 2);
-        QCOMPARE(applier.problems().at(1).reason, QStringLiteral("D = 7: not reached"));
+        QCOMPARE(applier.problems().at(1).reason, "D = 7: not reached"_s);
     }
 };
 

@@ -9,6 +9,6 @@ public:
     bool isEmpty() const override { return false; }
     QString translate(const char *, const char *source, const char *, int) const override
     {
-        return source[0] ? QLatin1Char('~') + QString::fromUtf8(source) : QString();
+        return source[0] ? u'~' + QString::fromUtf8(source) : QString();
     }
 };

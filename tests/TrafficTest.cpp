@@ -19,11 +19,6 @@
 
 namespace {
 
-QString operator""_s(const char *text, std::size_t size)
-{
-    return QString::fromUtf8(text, int(size));
-}
-
 TracedDevice::Call call(TracedDevice::Operation operation, const QString &node, const QString &value = {},
                         long status = 0, const QString &reason = {})
 {
@@ -76,7 +71,7 @@ void TrafficTest::everyCallIsForwardedAndReported()
         const QString sign = D::isWrite(made.operation) ? "<-"_s : "->"_s;
         reports.append(D::name(made.operation) + " "_s + made.node + sign + made.value + made.reason);
     }, [] { return " failed"_s; });
-    const QString text(300, QLatin1Char('x'));
+    const QString text(300, u'x');
     scripted.node("Text") = {RuvoNodeString, text};
     scripted.node("Enum") = {RuvoNodeEnumeration, "One"_s, {"One"_s, "Two"_s}};
     scripted.node("Float") = {RuvoNodeFloat, 0.1F, {}, RuvoNodeReadWrite, -1, 1, 0.25};
@@ -99,10 +94,10 @@ void TrafficTest::everyCallIsForwardedAndReported()
             device.executeCMD("Run"_s)}.count(0);
     };
     QCOMPARE(countSuccesses(), 13);
-    QCOMPARE(scripted.calls.join(QLatin1Char('|')),
+    QCOMPARE(scripted.calls.join(u'|'),
              "get Int|get Float|get Bool|get Enum|get Text|type Bool|mode Int|set Int=-3|set Float=16777215|"
              "set Bool=false|set Enum=Two|set Text=y|run Run"_s);
-    QCOMPARE(reports.join(QLatin1Char('|')).replace(text.left(256) + "…"_s, "CUT"_s),
+    QCOMPARE(reports.join(u'|').replace(text.left(256) + "…"_s, "CUT"_s),
              "getParamInt Int->-5|getParamFloat Float->0.1|getParamBool Bool->true|getParamEnum Enum->One|"
              "getParamString Text->CUT|getNodeType Bool->Boolean|getNodeAccessMode Int->NA|setParamInt Int<--3|"
              "setParamFloat Float<-16777215|setParamBool Bool<-false|setParamEnum Enum<-Two|setParamString Text<-y|"
@@ -117,7 +112,7 @@ void TrafficTest::everyCallIsForwardedAndReported()
     reports.clear();
     QCOMPARE(countSuccesses(), 2);
     QCOMPARE(reports.filter(" failed"_s).size(), 11);
-    QCOMPARE(reports.filter("Int"_s).join(QLatin1Char('|')),
+    QCOMPARE(reports.filter("Int"_s).join(u'|'),
              "getParamInt Int-> failed|getNodeAccessMode Int->NA|setParamInt Int<--3 failed"_s);
 }
 
@@ -166,7 +161,7 @@ void TrafficTest::filteredPausedAndCopied()
     const QAbstractItemModel *const shown = tableOf(view)->model();
     const QAbstractItemModelTester modelTester(&model);
     const QAbstractItemModelTester shownTester(tableOf(view)->model());
-    const auto nodes = [&] { return column(shown, TrafficModel::Node).join(QLatin1Char(' ')); };
+    const auto nodes = [&] { return column(shown, TrafficModel::Node).join(u' '); };
     model.append(call(TracedDevice::GetInt, "Delay"_s, "12"_s));
     model.append(call(TracedDevice::SetInt, "Delay2"_s, "x\ty"_s, 3, "Locked out"_s));
     click(view, "Pause"_s);
@@ -194,7 +189,7 @@ void TrafficTest::filteredPausedAndCopied()
 
     const QClipboard *const clipboard = QGuiApplication::clipboard();
     click(view, "Copy"_s);
-    QCOMPARE(clipboard->text().count(QLatin1Char('\n')), 5);
+    QCOMPARE(clipboard->text().count(u'\n'), 5);
     view.show();
     QVERIFY(QTest::qWaitForWindowActive(&view));
     tableOf(view)->setFocus();
@@ -274,7 +269,7 @@ void TrafficTest::nodesAreReadWhenShown()
         for (int column = 1; column < shown->columnCount(); ++column) {
             cells.append(shown->index(row, column).data().toString());
         }
-        return cells.join(QLatin1Char('|'));
+        return cells.join(u'|');
     };
     view.setDevice(camera.get());
     QCOMPARE(shown->rowCount(), 0); // nothing read yet

@@ -23,7 +23,7 @@
 
 namespace {
 
-const QString kAddress = QStringLiteral("127.0.0.1");
+const QString kAddress = "127.0.0.1"_s;
 
 } // namespace
 
@@ -42,7 +42,7 @@ class WindowTest : public QObject
     static VyTriggerConfigWdg *panel(const DevicePage *page) { return page->findChild<VyTriggerConfigWdg *>(); }
     static QComboBox *modeOf(const DevicePage *page)
     {
-        const auto *const row = page->findChild<QWidget *>(QStringLiteral("InputTriggerMode"));
+        const auto *const row = page->findChild<QWidget *>("InputTriggerMode"_s);
         return row ? row->findChild<QComboBox *>() : nullptr; // made when the row is first shown
     }
     static QDoubleSpinBox *delayBox(const DevicePage *page)
@@ -73,7 +73,7 @@ class WindowTest : public QObject
     QStringList listed() const
     {
         QStringList texts;
-        const auto *const list = m_window->findChild<QListWidget *>(QStringLiteral("deviceList"));
+        const auto *const list = m_window->findChild<QListWidget *>("deviceList"_s);
         for (int i = 0; i < list->count(); ++i) {
             texts.append(list->item(i)->text());
         }
@@ -82,7 +82,7 @@ class WindowTest : public QObject
     void restart(bool remember)
     {
         m_window.reset();
-        m_window = std::make_unique<MainWindow>(QStringLiteral("en"), remember);
+        m_window = std::make_unique<MainWindow>("en"_s, remember);
         m_window->show();
         m_window->activateWindow();
         QVERIFY(QTest::qWaitForWindowActive(m_window.get()));
@@ -98,7 +98,7 @@ private Q_SLOTS:
     void initTestCase()
     {
         QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, m_settings.path()); // shared with no other run
-        QCoreApplication::setOrganizationName(QStringLiteral("vytrigger-test"));
+        QCoreApplication::setOrganizationName("vytrigger-test"_s);
         connect(&m_answer, &QTimer::timeout, this, [this] {
             if (auto *const box = qobject_cast<QMessageBox *>(QApplication::activeModalWidget())) {
                 m_asked.append(box->objectName());
@@ -126,8 +126,8 @@ private Q_SLOTS:
         DevicePage *const builtIn = open({});
         DevicePage *const remote = open(kAddress);
         QVERIFY(builtIn != remote && panel(builtIn) && panel(remote));
-        modeOf(remote)->setCurrentText(QStringLiteral("Hold"));
-        QCOMPARE(modeOf(builtIn)->currentText(), QStringLiteral("Normal"));
+        modeOf(remote)->setCurrentText("Hold"_s);
+        QCOMPARE(modeOf(builtIn)->currentText(), "Normal"_s);
         action("start")->trigger();
         QVERIFY(remote->isAcquiring() && !builtIn->isAcquiring());
 
@@ -138,7 +138,7 @@ private Q_SLOTS:
         m_window->openDevice({});
         QCOMPARE(m_window->currentPage(), builtIn);
         QVERIFY(remote->device()->setParamFloat(kDelay, 2) == status);
-        QVERIFY2(said().contains(QStringLiteral("EV-000001")) && said().contains(QLatin1Char('2')), qPrintable(said()));
+        QVERIFY2(said().contains("EV-000001"_s) && said().contains(u'2'), qPrintable(said()));
 
         const VyTriggerConfigWdg *const before = panel(builtIn);
         m_camera.kill();
@@ -153,15 +153,15 @@ private Q_SLOTS:
     void aLostCameraComesBack()
     {
         DevicePage *const page = open(kAddress);
-        modeOf(page)->setCurrentText(QStringLiteral("Hold"));
+        modeOf(page)->setCurrentText("Hold"_s);
         QCoreApplication::processEvents();
         m_camera.kill();
-        modeOf(page)->setCurrentText(QStringLiteral("None"));
+        modeOf(page)->setCurrentText("None"_s);
         QTRY_VERIFY(!panel(page));
-        auto *const notice = page->findChild<QWidget *>(QStringLiteral("notice"));
+        auto *const notice = page->findChild<QWidget *>("notice"_s);
         QVERIFY(notice->isVisible());
-        QVERIFY(notice->findChild<QLabel *>(QStringLiteral("noticeText"))->text().contains(page->connection().reason()));
-        QVERIFY(said().contains(QStringLiteral("InputTriggerMode")) && said().contains(page->connection().reason()));
+        QVERIFY(notice->findChild<QLabel *>("noticeText"_s)->text().contains(page->connection().reason()));
+        QVERIFY(said().contains("InputTriggerMode"_s) && said().contains(page->connection().reason()));
         QVERIFY(!action("start")->isEnabled() && !action("saveSettings")->isEnabled());
 
         QVERIFY(m_camera.start().contains(kAddress));
@@ -169,7 +169,7 @@ private Q_SLOTS:
         QVERIFY2(!page->device(), "opening does not keep anybody waiting");
         QTRY_VERIFY_WITH_TIMEOUT(panel(page) && modeOf(page), 20000);
         QVERIFY(!notice->isVisible());
-        QCOMPARE(modeOf(page)->currentText(), QStringLiteral("Normal"));
+        QCOMPARE(modeOf(page)->currentText(), "Normal"_s);
         typeDelay(page, "7\r");
         QCOMPARE(delayOf(page->device()), 7.F);
     }
@@ -180,10 +180,10 @@ private Q_SLOTS:
         first.open();
         QTRY_COMPARE_WITH_TIMEOUT(first.state(), CameraConnection::Open, 20000);
         const DevicePage *const page = open(kAddress);
-        QVERIFY(page->findChild<QWidget *>(QStringLiteral("readOnlyStrip"))->isVisible());
+        QVERIFY(page->findChild<QWidget *>("readOnlyStrip"_s)->isVisible());
         QVERIFY(!delayBox(page)->isEnabled());
         QVERIFY(!action("start")->isEnabled() && !action("applySettings")->isEnabled());
-        QVERIFY2(listed().last().contains(QStringLiteral("read-only")), qPrintable(listed().last()));
+        QVERIFY2(listed().last().contains("read-only"_s), qPrintable(listed().last()));
     }
 
     void pendingEditsAreWritten()
@@ -213,10 +213,10 @@ private Q_SLOTS:
         QVERIFY(m_asked.isEmpty());
         typeDelay(page, "4");
         entry("loadUserSet", "Default")->trigger();
-        QCOMPARE(m_asked, QStringList{QStringLiteral("loadUserSetBox")});
+        QCOMPARE(m_asked, QStringList{"loadUserSetBox"_s});
         QCOMPARE(delayOf(page->device()), 4.F);
         entry("saveUserSet", "Default")->trigger(); // which no camera takes
-        QVERIFY2(said().contains(QStringLiteral("UserSetSave")), qPrintable(said()));
+        QVERIFY2(said().contains("UserSetSave"_s), qPrintable(said()));
         entry("loadUserSet", "Default")->trigger();
         QCOMPARE(m_asked.size(), 2);
         entry("saveUserSet", "UserSet1")->trigger();
@@ -229,28 +229,28 @@ private Q_SLOTS:
     {
         restart(true);
         open(kAddress);
-        const DevicePage *const absent = open(QStringLiteral("127.0.0.3"), CameraConnection::Failed);
-        QVERIFY(!absent->device() && absent->connection().reason().contains(QStringLiteral("127.0.0.3")));
-        QVERIFY2(QSettings().contains(QStringLiteral("devices/") + kAddress), "even if the end never comes");
+        const DevicePage *const absent = open("127.0.0.3"_s, CameraConnection::Failed);
+        QVERIFY(!absent->device() && absent->connection().reason().contains("127.0.0.3"_s));
+        QVERIFY2(QSettings().contains("devices/"_s + kAddress), "even if the end never comes");
         m_window->resize(777, 555);
         m_window->close();
         restart(true);
         QCOMPARE(m_window->size(), QSize(777, 555));
         QVERIFY(!m_window->currentPage());
-        const QString all = listed().join(QLatin1Char('|'));
-        QVERIFY2(all.contains(QStringLiteral("EV-000001")) && all.contains(QStringLiteral("127.0.0.3")), qPrintable(all));
-        QCOMPARE(all.count(QStringLiteral("not connected")), 3);
+        const QString all = listed().join(u'|');
+        QVERIFY2(all.contains("EV-000001"_s) && all.contains("127.0.0.3"_s), qPrintable(all));
+        QCOMPARE(all.count("not connected"_s), 3);
     }
 
     void whatACameraSaysIsNoMarkup()
     {
-        const QString text = QStringLiteral("<b>&A</b> &lt;[*]");
+        const QString text = "<b>&A</b> &lt;[*]"_s;
         QSettings().clear();
-        QSettings().setValue(QStringLiteral("devices/127.0.0.3"), QStringList{text, text, text});
+        QSettings().setValue("devices/127.0.0.3"_s, QStringList{text, text, text});
         restart(true);
-        QVERIFY(open(QStringLiteral("127.0.0.3"), CameraConnection::Failed));
-        const auto *const tabs = m_window->findChild<QTabWidget *>(QStringLiteral("tabs"));
-        const auto *const list = m_window->findChild<QListWidget *>(QStringLiteral("deviceList"));
+        QVERIFY(open("127.0.0.3"_s, CameraConnection::Failed));
+        const auto *const tabs = m_window->findChild<QTabWidget *>("tabs"_s);
+        const auto *const list = m_window->findChild<QListWidget *>("deviceList"_s);
         for (const QString &toolTip : {tabs->tabToolTip(0), list->item(1)->toolTip()}) {
             QTextDocument shown;
             shown.setHtml(toolTip);
@@ -259,7 +259,7 @@ private Q_SLOTS:
         for (const QLabel *label : m_window->findChildren<QLabel *>()) {
             QVERIFY(label->textFormat() == Qt::PlainText || !label->text().contains(text));
         }
-        QCOMPARE(tabs->tabText(0).count(QStringLiteral("&&")), 4);
+        QCOMPARE(tabs->tabText(0).count("&&"_s), 4);
         QVERIFY2(m_window->windowHandle()->title().startsWith(text), qPrintable(m_window->windowHandle()->title()));
         QSettings().clear();
     }
