@@ -1,3 +1,5 @@
+#include "Literal.h"
+
 #include "devices/CameraBehaviour.h"
 #include "devices/GenicamDevice.h"
 
@@ -11,11 +13,6 @@
 
 namespace {
 
-QString operator""_s(const char *text, std::size_t size)
-{
-    return QString::fromUtf8(text, int(size));
-}
-
 /// A camera's memory where every command was given; it notes which registers are written.
 struct NotingMemory final : public CameraMemory
 {
@@ -25,25 +22,13 @@ struct NotingMemory final : public CameraMemory
     QVector<quint64> written;
 };
 
-/// The nodes by what makes them available: a source, a stop condition or a word of our own; and their types.
-const struct { const char *when, *prefix, *nodes; } kSections[] = {
-    {"always", "Input", "TriggerMode"}, {"on", "Input", "TriggerSource TriggerDelay TriggerCache KeyTrigger"},
-    {"SoftwareTrigger", "Input", "SoftwareTrigger"}, {"IOTrigger", "Input", "IOTriggerFollow"},
-    {"AutoTrigger", "Trigger", "AutoInterval"}, {"SensingTrigger", "TriggerSensing", "Sensitivity WaitPeriod"},
-    {"TcpServer", "TriggerTcpServer", "Port CMDFuzzyMatching CMDFormat StartCMD StorageImageCMD"},
-    {"TcpClient", "TriggerTcpClient", "ServerIp ServerPort CMDFuzzyMatch CMDFormat StartCMD HeartbeatEnable"},
-    {"heartbeat", "TriggerTcpClientHeartbeat", "CMD Interval"},
-    {"Udp", "TriggerUdp", "Port CMDFuzzyMatch CMDFormat StartCMD"},
-    {"RS-232", "TriggerSerialPort", "Baudrate Flowcontrol Stopbit Paritybit Databit CMDFuzzyMatch CMDFormat StartCMD"},
-    {"hold", "TriggerStopConfig%1", "Enable"}, {"enabled", "TriggerStopConfig%1", "Condtion"},
-    {"FrameCount", "TriggerStopConfig%1", "FrameCount"}, {"Duration", "TriggerStopConfig%1", "Duration"},
-    {"DecodeCount", "TriggerStopConfig%1", "DecodeCount CodeCountEnable"},
-    {"TcpServer", "TriggerStopConfig%1TcpServer", "Port CMDFuzzyMatching StopCMD"},
-    {"own port", "TriggerStopConfig%1TcpServer", "CMDFormat"},
-    {"TcpClient", "TriggerStopConfig%1TcpClient", "ServerIp ServerPort CMDFuzzyMatch CMDFormat StopCMD"},
-    {"Udp", "TriggerStopConfig%1Udp", "Port CMDFuzzyMatch CMDFormat StopCMD"},
-    {"RS-232", "TriggerStopConfig%1SerialPort",
-     "Baudrate Flowcontrol Stopbit Paritybit Databit CMDFuzzyMatch CMDFormat StopCMD"},
+/// What makes a node available: a source, a stop condition or a word of our own. The first that its name fits.
+const struct { const char *part, *when; } kSections[] = {
+    {"InputTriggerMode", "always"}, {"InputSoftware", "SoftwareTrigger"}, {"InputIO", "IOTrigger"}, {"Input", "on"},
+    {"TriggerAuto", "AutoTrigger"}, {"TriggerSensing", "SensingTrigger"}, {"Heartbeat(CMD|Interval)", "heartbeat"},
+    {"\\dTcpServerCMDFormat", "own port"}, {"TcpServer", "TcpServer"}, {"TcpClient", "TcpClient"}, {"Udp", "Udp"},
+    {"SerialPort", "RS-232"}, {"\\dEnable", "hold"}, {"Condtion", "enabled"}, {"FrameCount", "FrameCount"},
+    {"Duration", "Duration"}, {"DecodeCount|CodeCount", "DecodeCount"},
 };
 const struct { const char *ending; RuvoNodeType type; } kTypes[] = {
     {"(Mode|Source|Condtion|Format|Baudrate|Flowcontrol|bit)$", RuvoNodeEnumeration},
@@ -54,21 +39,19 @@ const struct { const char *ending; RuvoNodeType type; } kTypes[] = {
 
 struct Node { QString name, when; int stop; RuvoNodeType type; };
 
-QVector<Node> allNodes()
+QVector<Node> allNodes(const GenicamDevice &device)
 {
+    const auto fits = [](const QString &name, const char *part) {
+        return name.contains(QRegularExpression(QLatin1String(part)));
+    };
     QVector<Node> nodes;
-    for (const auto &section : kSections) {
-        const bool isStop = QByteArray(section.prefix).contains('%');
-        for (int stop = isStop; stop <= (isStop ? 5 : 0); ++stop) {
-            for (const QString &end : QString::fromLatin1(section.nodes).split(QLatin1Char(' '))) {
-                const QString name = QString::fromLatin1(section.prefix).replace("%1"_s, QString::number(stop)) + end;
-                for (const auto &row : kTypes) {
-                    if (name.contains(QRegularExpression(QLatin1String(row.ending)))) {
-                        nodes.append({name, QLatin1String(section.when), stop, row.type});
-                    }
-                }
-            }
-        }
+    for (const QString &name : device.nodes().filter(QRegularExpression("^(Input|Trigger(?!Count))"_s))) {
+        const auto section = std::find_if(std::begin(kSections), std::end(kSections),
+                                          [&](const auto &row) { return fits(name, row.part); });
+        const auto type = std::find_if(std::begin(kTypes), std::end(kTypes),
+                                       [&](const auto &row) { return fits(name, row.ending); });
+        const int stop = name.startsWith("TriggerStopConfig"_s) ? name.at(17).digitValue() : 0;
+        nodes.append({name, QLatin1String(section->when), stop, type->type});
     }
     return nodes;
 }
@@ -193,9 +176,9 @@ QVariant GenicamDeviceTest::read(const QString &node)
 /// read. The stop configurations stop by command if they can, by decoding, time and frames; the last is off.
 void GenicamDeviceTest::sections()
 {
-    QCOMPARE(allNodes().size(), 35 + 5 * 27);
+    QCOMPARE(allNodes(*m_device).size(), 35 + 5 * 27);
     const QStringList sources = "SoftwareTrigger IOTrigger AutoTrigger SensingTrigger Master-Slave TcpServer "
-                                "TcpClient Udp RS-232"_s.split(QLatin1Char(' '));
+                                "TcpClient Udp RS-232"_s.split(u' ');
     for (int row = 0; row < 3 * sources.size(); ++row) {
         init();
         const QByteArray mode = row % 3 == 0 ? "None" : row % 3 == 1 ? "Normal" : "Hold";
@@ -212,7 +195,7 @@ void GenicamDeviceTest::sections()
             QCOMPARE(write("TriggerStopConfig%1Condtion"_s.arg(stop), active[stop].first().toLatin1()), 0L);
         }
         QCOMPARE(write("InputTriggerMode"_s, mode), 0L);
-        for (const Node &node : allNodes()) {
+        for (const Node &node : allNodes(*m_device)) {
             const QByteArray what = mode + (source + node.name).toLatin1();
             const bool available = (node.stop == 0 || mode == "Hold") && active[node.stop].contains(node.when);
             QVERIFY2(m_device->getNodeType(node.name) == node.type, what);
@@ -287,7 +270,7 @@ void GenicamDeviceTest::limitsAndWrites()
         {"Tenth"_s, rw, 0.1f /* as a float above the maximum */, 0}, {"Tenth"_s, rw, 0.01f, 0},
     };
     for (const auto &row : rows) {
-        const QByteArray what = (row.node + QLatin1Char(' ') + row.value.toString()).toUtf8();
+        const QByteArray what = (row.node + u' ' + row.value.toString()).toUtf8();
         const bool isReadable = (row.access == ro || row.access == rw) && !row.node.startsWith("No"_s);
         QVERIFY2(m_device->getNodeAccessMode(row.node) == row.access, what);
         const QVariant before = read(row.node);
@@ -306,7 +289,7 @@ void GenicamDeviceTest::locksAndUserSets()
     choose("Hold"_s, "Udp"_s);
     QCOMPARE(write("TriggerStopConfig1Condtion"_s, QByteArray("Command")), 0L);
     QHash<QString, RuvoNodeAccessMode> before;
-    for (const Node &node : allNodes()) {
+    for (const Node &node : allNodes(*m_device)) {
         before[node.name] = m_device->getNodeAccessMode(node.name);
     }
     QCOMPARE(m_device->executeCMD("AcquisitionStart"_s), 0L);
@@ -384,7 +367,7 @@ void GenicamDeviceTest::unusableDescriptions()
     }
     for (const auto &row : qAsConst(rows)) {
         QVERIFY2(!openText(row.first), qPrintable(row.second));
-        QVERIFY2(m_error.contains(row.second) && !m_error.contains(QLatin1Char('\n')), qPrintable(m_error));
+        QVERIFY2(m_error.contains(row.second) && !m_error.contains(u'\n'), qPrintable(m_error));
     }
     QVERIFY(openText(m_description));
     for (const QString &path : {"/nowhere/at/all.xml"_s, m_directory.path()}) {
