@@ -10,13 +10,13 @@
 
 #include <VyCommonGUI/VyBlockWidget.h>
 #include <VyCommonGUI/VyLineEdit.h>
-#include <VyCommonGUI/VyScrollArea.h>
 #include <VyCommonGUI/VySpinBox.h>
-#include <VyViewerCore/IDeviceManager.h>
+#include <VyCommonGUI/VyToggleSwitch.h>
+#include <VyViewerCore/CoreEventBus.h>
 
 #include <QAccessible>
 #include <QPushButton>
-#include <QScrollBar>
+#include <QSet>
 #include <QVBoxLayout>
 #include <QtTest>
 
@@ -29,6 +29,63 @@ using namespace VyViewer;
 namespace {
 
 const char *const Port = "TriggerTcpServerPort";
+const QVector<int> AllPages{1, 2, 3, 4, 5};
+
+/// The sources of commands, and the commands of the trigger page.
+const struct { QString name, event; QStringList commands; } Sources[] = {
+    {"TcpServer"_s, "tcpserverCMDFormatEvent"_s, {"TriggerTcpServerStartCMD"_s, "TriggerTcpServerStorageImageCMD"_s}},
+    {"TcpClient"_s, "tcpclientCMDFormatEvent"_s, {"TriggerTcpClientStartCMD"_s, "TriggerTcpClientHeartbeatCMD"_s}},
+    {"Udp"_s, "udpCMDFormatEvent"_s, {"TriggerUdpStartCMD"_s}},
+    {"SerialPort"_s, "serialportCMDFormatEvent"_s, {"TriggerSerialPortStartCMD"_s}},
+};
+
+QString stopNode(int number, const QString &name)
+{
+    return "TriggerStopConfig%1"_s.arg(number) + name;
+}
+
+/// What is posted under a name.
+struct Heard
+{
+    explicit Heard(const QString &name)
+        : event(name, nullptr)
+        , posts(&event, &CoreEvent::triggered)
+    {
+        Singleton<CoreEventBus>::getInstance()->registerEvent(&event);
+    }
+    CoreEvent event;
+    QSignalSpy posts;
+};
+
+QStringList conditionRefresh(const QVector<int> &pages)
+{
+    QStringList calls;
+    for (const int number : pages) {
+        calls += ScriptedDevice::refreshOf(stopNode(number, "Condtion"_s));
+    }
+    return calls;
+}
+
+/// What the stop pages ask when they hear of a format: hidden ones too, all have built their rows.
+QStringList stopCommandRefresh(const QString &source)
+{
+    QStringList calls;
+    for (const int number : AllPages) {
+        const QString format = stopNode(number, source + "CMDFormat"_s);
+        calls += ScriptedDevice::refreshOf(stopNode(number, source + "StopCMD"_s)) + ScriptedDevice::refreshOf(format);
+    }
+    return calls;
+}
+
+/// What stays of a text that is typed, character by character, where nothing was.
+QString typed(VyLineEdit *edit, const QString &text)
+{
+    edit->clear();
+    for (const QChar character : text) {
+        edit->insert(character);
+    }
+    return edit->text();
+}
 
 } // namespace
 
@@ -43,9 +100,15 @@ class PanelTest : public QObject
         return m_panel->findChildren<Widget *>().at(index);
     }
     VyBlockWidget *stopBlock() const { return find<VyBlockWidget>(1); }
-    void show(const char *mode = "Once")
+    TriggerStopConfigWdg *page(int number) const { return find<TriggerStopConfigWdg>(number - 1); }
+    VyMultiCheckTitleWidget *title(int number) const { return page(number)->findChild<VyMultiCheckTitleWidget *>(); }
+    /// With these stop configurations switched on.
+    void show(const char *mode = "Once", const QVector<int> &enabled = {})
     {
         m_device.node("InputTriggerMode").value = QString::fromLatin1(mode);
+        for (const int number : enabled) {
+            m_device.node(stopNode(number, "Enable"_s)).value = true;
+        }
         m_panel->setVyDevice(&m_device);
         m_panel->resize(500, 600);
         m_panel->show();
@@ -54,17 +117,29 @@ class PanelTest : public QObject
         QCoreApplication::processEvents(); // editors become visible by a queued call
         m_device.takeCalls();
     }
-    int visibleStopPages() const
+    void showAgain() const
     {
-        int visible = 0;
-        for (const auto *page : m_panel->findChildren<TriggerStopConfigWdg *>()) {
-            visible += page->isVisible() ? 1 : 0;
-        }
-        return visible;
+        m_panel->hide();
+        m_panel->show();
     }
-    void grab(Device *device, int status) const
+    QVector<int> shownPages() const
     {
-        Q_EMIT Singleton<IDeviceManager>::getInstance()->deviceGrabStatusUpdate(device, status);
+        QVector<int> shown;
+        std::copy_if(AllPages.begin(), AllPages.end(), std::back_inserter(shown),
+                     [this](int number) { return page(number)->isVisible(); });
+        return shown;
+    }
+    int enabledTitles() const
+    {
+        return int(std::count_if(AllPages.begin(), AllPages.end(),
+                                 [this](int number) { return title(number)->isEnabled(); }));
+    }
+    /// What refreshing all rows of the page asks of the device.
+    QStringList refreshOf(ParamPageWidget *page)
+    {
+        m_device.takeCalls();
+        page->updateWidget();
+        return m_device.takeCalls();
     }
     /// Makes every node of the device read-only, or read/write again.
     void lock(bool locked)
@@ -90,12 +165,12 @@ private Q_SLOTS:
         m_host.reset();
     }
 
-    void unboundCallsNoDevice()
+    void bindsOnceAndCallsNoOther()
     {
         m_panel->show();
         grab(nullptr, 1);
-        DeviceEvents::post(QStringLiteral("UserSetLoad"), DeviceEvents::payload(nullptr));
-        DeviceEvents::post(QStringLiteral("UserSetLoad"), {});
+        DeviceEvents::post("UserSetLoad"_s, DeviceEvents::payload(nullptr));
+        DeviceEvents::post("UserSetLoad"_s, {});
         QVERIFY(find<VyBlockWidget>()->isVisible());
         QVERIFY(stopBlock()->isHidden());
         QTest::ignoreMessage(QtWarningMsg, "VyTriggerConfigWdg: cannot bind a null device");
@@ -103,19 +178,12 @@ private Q_SLOTS:
         show("Hold"); // bound late
         QVERIFY(editor<VySpinBox>(m_panel.get(), Port)->isVisible());
         QVERIFY(stopBlock()->isVisible());
-    }
-
-    void bindsOnce()
-    {
-        show();
-        const int rows = m_panel->findChildren<ParamPageWidgetItem *>().size();
         ScriptedDevice other;
         QTest::ignoreMessage(QtWarningMsg, "VyTriggerConfigWdg: already bound to a device");
         m_panel->setVyDevice(&other);
-        m_panel->hide();
-        m_panel->show();
-        QCOMPARE(m_panel->findChildren<ParamPageWidgetItem *>().size(), rows);
+        showAgain();
         QVERIFY(other.calls.isEmpty());
+        QCOMPARE(m_panel->findChildren<TriggerStopConfigWdg *>().size(), 5);
     }
 
     void fillsItsPlaceInWhite()
@@ -123,278 +191,432 @@ private Q_SLOTS:
         m_panel->resize(600, 2000);
         m_panel->show();
         QCOMPARE(find<VyTriggerConfigWidgetImpl>()->geometry(), m_panel->rect());
-        QCOMPARE(find<VyTriggerConfigWidgetImpl>()->windowTitle(), QStringLiteral("Form"));
+        QCOMPARE(find<VyTriggerConfigWidgetImpl>()->windowTitle(), "Form"_s);
         QCOMPARE(m_panel->grab().toImage().pixelColor(300, 1500), QColor(Qt::white));
         QVERIFY2(find<VyBlockWidget>()->y() < 100, "the blocks are packed at the top");
     }
 
+    void pagesAreNumberedAndEveryRowHasANodeOfItsOwn()
+    {
+        show("Hold", AllPages);
+        QSet<QString> nodes;
+        for (const auto *row : m_panel->findChildren<ParamPageWidgetItem *>()) {
+            nodes.insert(row->objectName());
+        }
+        QCOMPARE(nodes.size(), 35 + 5 * 26);
+        for (const int number : AllPages) {
+            for (const auto *row : page(number)->findChildren<ParamPageWidgetItem *>()) {
+                QVERIFY2(row->objectName().startsWith(stopNode(number, {})), qPrintable(row->objectName()));
+            }
+            QCOMPARE(text(title(number)), "Config %1"_s.arg(number));
+            const auto buttons = title(number)->findChildren<QAbstractButton *>();
+            const auto shown = std::count_if(buttons.begin(), buttons.end(), std::mem_fn(&QWidget::isVisible));
+            QCOMPARE(int(shown), number == 1 ? 0 : 1); // no check box, and the first cannot be deleted
+            QVERIFY(number == 1 || page(number)->y() > page(number - 1)->y());
+        }
+    }
+
     void theShowReadsInOrder()
     {
-        m_device.node("InputTriggerMode").value = QStringLiteral("None");
+        m_device.node("InputTriggerMode").value = "None"_s;
+        m_device.node("TriggerTcpClientStartCMD").mode = RuvoNodeNotAvailable; // so its format is not asked for
         m_panel->setVyDevice(&m_device);
         QVERIFY2(m_device.calls.isEmpty(), "binding reads nothing");
         m_panel->show();
         const QStringList calls = m_device.takeCalls();
         auto *const page = find<TriggerConfigWdgImpl>();
-        page->updateWidget();
-        const QStringList rows = m_device.takeCalls();
+        const QStringList rows = refreshOf(page);
+        QCOMPARE(rows.size(), 35 + 33); // modes, and values of all but the one command and what is not available
 
         QStringList expected;
         for (const auto *row : page->findChildren<ParamPageWidgetItem *>()) {
-            expected << QStringLiteral("type ") + row->objectName();
+            expected << "type "_s + row->objectName();
         }
-        expected << rows << QStringLiteral("get InputTriggerMode") << QStringLiteral("get TriggerTcpServerCMDFormat")
-                 << QStringLiteral("get TriggerTcpClientCMDFormat") << QStringLiteral("get TriggerUdpCMDFormat")
-                 << QStringLiteral("get TriggerSerialPortCMDFormat") << QStringLiteral("mode InputTriggerMode")
-                 << rows << QStringLiteral("get InputTriggerMode");
+        expected << rows << "get InputTriggerMode"_s << "get TriggerTcpServerCMDFormat"_s << "get TriggerUdpCMDFormat"_s
+                 << "get TriggerSerialPortCMDFormat"_s << "mode InputTriggerMode"_s << rows << "get InputTriggerMode"_s;
         QCOMPARE(calls, expected);
-    }
-
-    void stopBlockFollowsTheMode()
-    {
-        show("Hold");
-        QVERIFY(stopBlock()->isVisible());
-        auto *const mode = editor<VyComboBox>(m_panel.get(), "InputTriggerMode");
-        mode->setCurrentText(QStringLiteral("Once"));
-        QVERIFY(stopBlock()->isHidden());
-        m_device.takeCalls();
-        mode->setCurrentText(QStringLiteral("Hold"));
-        QVERIFY(stopBlock()->isVisible());
-        QVERIFY(m_device.calls.contains(QStringLiteral("mode TriggerStopConfig1Condtion")));
-
-        m_panel->hide();
-        m_device.node("InputTriggerMode").failsReads = true;
-        m_panel->show();
-        QVERIFY(stopBlock()->isHidden());
     }
 
     void aChangeOfSourceReadsTriggerThenStopPages()
     {
-        show("Hold");
-        find<TriggerConfigWdgImpl>()->updateWidget();
-        find<TriggerStopConfigWdg>()->updateWidget();
-        const QStringList rows = m_device.takeCalls();
-        QStringList expected{QStringLiteral("set InputTriggerSource=Udp")};
-        expected << rows;
-        expected.insert(1 + rows.indexOf(QStringLiteral("mode TriggerStopConfig1Condtion")),
-                        QStringLiteral("get InputTriggerMode"));
-        expected.insert(2 + rows.indexOf(QStringLiteral("mode TriggerStopConfig1Condtion")),
-                        QStringLiteral("get InputTriggerSource"));
-        editor<VyComboBox>(m_panel.get(), "InputTriggerSource")->setCurrentText(QStringLiteral("Udp"));
+        show("Hold", {3});
+        const QStringList trigger = refreshOf(find<TriggerConfigWdgImpl>());
+        const QStringList stop = refreshOf(page(1)) + refreshOf(page(3));
+        const Heard heard("triggerSource"_s);
+        choose(m_panel.get(), "InputTriggerSource", "Udp");
+        QStringList expected{"set InputTriggerSource=Udp"_s};
+        expected << trigger << "get InputTriggerMode"_s << "get InputTriggerSource"_s << stop;
         QCOMPARE(m_device.takeCalls(), expected);
+        QCOMPARE(heard.posts.count(), 1);
+        QCOMPARE(heard.posts.at(0).at(0).toMap(), DeviceEvents::payload(&m_device));
     }
 
-    void acquisitionLocks_data()
+    void aChangeOfModeIsAnnounced()
     {
-        QTest::addColumn<bool>("otherThread");
-        QTest::newRow("same thread") << false;
-        QTest::newRow("other thread") << true;
+        const struct { const char *mode; bool fails, hold; const char *posted; } rows[] = {
+            {"None", false, false, "Off"}, {"Hold", false, true, "On"}, {"Once", false, false, "On"},
+            {"Hold", true, false, "On"},
+        };
+        for (const auto &row : rows) {
+            m_device.reset();
+            auto &node = m_device.node("InputTriggerMode");
+            node.value = "Other"_s;
+            node.entries.append("Other"_s);
+            TriggerConfigWdgImpl page(&m_device, nullptr);
+            page.show();
+            node.failsReads = row.fails;
+            const QStringList reads = refreshOf(&page);
+            const Heard heard("DeviceParamChanged"_s);
+            QSignalSpy hold(&page, &TriggerConfigWdgImpl::triggerModeHoldRefresh);
+            choose(&page, "InputTriggerMode", row.mode);
+
+            QStringList expected{"set InputTriggerMode="_s + QLatin1String(row.mode)};
+            expected << reads << "get InputTriggerMode"_s << "get InputTriggerMode"_s;
+            if (qstrcmp(row.mode, "None") != 0) {
+                expected << "get InputTriggerSource"_s;
+            }
+            QCOMPARE(m_device.takeCalls(), expected);
+            QCOMPARE(hold.count(), 1);
+            QCOMPARE(hold.at(0).at(0).toBool(), row.hold);
+            QCOMPARE(heard.posts.count(), 1);
+            QVariantMap payload = DeviceEvents::payload(&m_device);
+            payload.insert("TriggerMode"_s, QLatin1String(row.posted));
+            payload.insert("TriggerConfigWdgImpl"_s, QVariant());
+            QCOMPARE(heard.posts.at(0).at(0).toMap(), payload);
+        }
     }
+
+    void aChangeOfFormatReachesTheStopPages()
+    {
+        show("Hold");
+        const QStringList rows = refreshOf(find<TriggerConfigWdgImpl>());
+        for (const auto &source : Sources) {
+            const QString format = "Trigger%1CMDFormat"_s.arg(source.name);
+            const Heard heard(source.event);
+            choose(m_panel.get(), format.toLatin1().constData(), "Hex");
+            // The trigger page does not hear its own post.
+            QStringList expected{"set %1=Hex"_s.arg(format)};
+            expected << rows << "get "_s + format << stopCommandRefresh(source.name);
+            QCOMPARE(m_device.takeCalls(), expected);
+            QCOMPARE(heard.posts.count(), 1);
+            QCOMPARE(heard.posts.at(0).at(0).toMap(), DeviceEvents::payload(&m_device));
+        }
+    }
+
+    void aChangeOnAStopPageIsAnnounced_data()
+    {
+        QTest::addColumn<QString>("row");
+        QTest::addColumn<QString>("event");
+        QTest::addColumn<QStringList>("reads"); // after those of the page
+        QTest::newRow("condition") << "Condtion" << "TriggerStopConditionEvent" << conditionRefresh({1, 3, 4, 5});
+        QTest::newRow("code counting") << "CodeCountEnable" << "TriggerStopDecodeCountEnable" << QStringList();
+        QTest::newRow("format") << "UdpCMDFormat" << QString()
+                                << ScriptedDevice::refreshOf(stopNode(2, "UdpCMDFormat"_s));
+    }
+    void aChangeOnAStopPageIsAnnounced()
+    {
+        QFETCH(QString, row);
+        QFETCH(QString, event);
+        QFETCH(QStringList, reads);
+        show("Hold", {2, 3});
+        const QStringList rows = refreshOf(page(2));
+        const Heard heard(event.isEmpty() ? "udpCMDFormatEvent"_s : event);
+        if (auto *const combo = editor<VyComboBox>(m_panel.get(), stopNode(2, row))) {
+            combo->setCurrentIndex(1);
+        } else {
+            QTest::keyClick(editor<VyToggleSwitch>(m_panel.get(), stopNode(2, row)), Qt::Key_Space);
+        }
+        const QString value = m_device.node(stopNode(2, row)).value.toString();
+        QCOMPARE(m_device.takeCalls(), QStringList{"set %1=%2"_s.arg(stopNode(2, row), value)} + rows + reads);
+        QCOMPARE(heard.posts.count(), event.isEmpty() ? 0 : 1);
+        QVERIFY(event.isEmpty() || heard.posts.at(0).at(0).toMap() == DeviceEvents::payload(&m_device));
+    }
+
+    void eventsReadWhatTheyAreAbout()
+    {
+        show("Hold", {3});
+        QVector<QPair<QString, QStringList>> events{
+            {"triggerSource"_s, refreshOf(page(1)) + refreshOf(page(3))},
+            {"TriggerStopConditionEvent"_s, conditionRefresh(AllPages)},
+            {"TriggerStopDecodeCountEnable"_s, {}},
+        };
+        for (const auto &source : Sources) {
+            QStringList calls;
+            for (const QString &command : source.commands) {
+                calls += ScriptedDevice::refreshOf(command);
+            }
+            events.append({source.event, calls + stopCommandRefresh(source.name)});
+        }
+        ScriptedDevice other;
+        for (const auto &[event, calls] : qAsConst(events)) {
+            DeviceEvents::post(event, {});
+            DeviceEvents::post(event, DeviceEvents::payload(&other));
+            DeviceEvents::post(event, {{"IDevice"_s, "text"_s}});
+            QCOMPARE(m_device.calls, QStringList());
+            DeviceEvents::post(event, DeviceEvents::payload(&m_device));
+            QCOMPARE(m_device.takeCalls(), calls);
+        }
+        m_panel->hide();
+        m_device.takeCalls();
+        DeviceEvents::post("triggerSource"_s, DeviceEvents::payload(&m_device));
+        QVERIFY(m_device.calls.isEmpty());
+    }
+
+    void hostEventsReadEverythingAgain()
+    {
+        ScriptedDevice other;
+        const struct { QString event; Device *device; QStringList keys; bool reads; } rows[] = {
+            {"UserSetLoad"_s, &m_device, {}, true}, {"UserSetLoad"_s, &other, {}, false},
+            {"DeviceParamChanged"_s, &m_device, {"TriggerMode"_s}, true},
+            {"DeviceParamChanged"_s, &other, {"TriggerMode"_s}, false},
+            {"DeviceParamChanged"_s, &m_device, {}, false}, // something else has changed
+            {"DeviceParamChanged"_s, &m_device, {"TriggerMode"_s, "TriggerConfigWdgImpl"_s}, false}, // by the panel
+        };
+        for (const auto &row : rows) {
+            init();
+            show();
+            QVariantMap payload = DeviceEvents::payload(row.device);
+            for (const QString &key : row.keys) {
+                payload.insert(key, QVariant());
+            }
+            m_device.node("InputTriggerMode").value = "Hold"_s;
+            m_device.node(Port).value = 1234;
+            DeviceEvents::post(row.event, payload);
+            QCOMPARE(editor<VySpinBox>(m_panel.get(), Port)->value(), row.reads ? 1234 : 7);
+            QCOMPARE(stopBlock()->isVisible(), row.reads);
+            QCOMPARE(m_device.calls.isEmpty(), !row.reads);
+
+            m_device.takeCalls();
+            m_panel->hide();
+            DeviceEvents::post(row.event, payload);
+            QVERIFY2(m_device.calls.isEmpty(), "a panel that is not on screen waits for the next show");
+            m_panel->show();
+            QCOMPARE(editor<VySpinBox>(m_panel.get(), Port)->value(), 1234);
+            QVERIFY(stopBlock()->isVisible());
+        }
+        m_device.node("InputTriggerMode").failsReads = true;
+        showAgain();
+        QVERIFY(stopBlock()->isHidden());
+    }
+
+    void formatsDecideWhatCanBeTyped()
+    {
+        show("Hold");
+        const struct { QString format, text; int length; } rows[] = {
+            {"Hex"_s, "gAxB"_s, 2}, {"Hex"_s, QString(129, u'A'), 128}, {"HEX"_s, "gAxB"_s, 4},
+            {"String"_s, QString(43, QChar(0x20AC)), 42}, // which has three bytes
+        };
+        for (const auto &row : rows) {
+            for (const auto &source : Sources) {
+                m_device.node("Trigger%1CMDFormat"_s.arg(source.name)).value = row.format;
+                m_device.node(stopNode(1, source.name + "CMDFormat"_s)).value = row.format;
+            }
+            showAgain();
+            for (const auto &source : Sources) {
+                for (const QString &command : source.commands + QStringList{stopNode(1, source.name + "StopCMD"_s)}) {
+                    QCOMPARE(typed(editor<VyLineEdit>(m_panel.get(), command), row.text).size(), row.length);
+                }
+            }
+        }
+        QVERIFY2(!editor<VyLineEdit>(m_panel.get(), "TriggerTcpClientServerIp")->validator(), "no command");
+    }
+
+    /// A stop page has formats of its own, or those of the trigger page.
+    void formatsOfAStopPage()
+    {
+        const struct { int mode; QString own, trigger; bool hex; } rules[] = {
+            {4, "Hex"_s, "String"_s, true}, {3, "String"_s, "Hex"_s, false}, {4, "hex"_s, "Hex"_s, false},
+            {1, "String"_s, "Hex"_s, true}, {0, "Hex"_s, "String"_s, false},
+        };
+        show("Hold");
+        for (const auto &source : Sources) {
+            auto &command = m_device.node(stopNode(1, source.name + "StopCMD"_s));
+            auto *const edit = editor<VyLineEdit>(m_panel.get(), stopNode(1, source.name + "StopCMD"_s));
+            const QString ownFormat = stopNode(1, source.name + "CMDFormat"_s);
+            const QString triggerFormat = "Trigger%1CMDFormat"_s.arg(source.name);
+            for (const auto &rule : rules) {
+                m_device.node(ownFormat).mode = static_cast<RuvoNodeAccessMode>(rule.mode);
+                m_device.node(ownFormat).value = rule.own;
+                m_device.node(triggerFormat).value = rule.trigger;
+                m_device.takeCalls();
+                DeviceEvents::post(source.event, DeviceEvents::payload(&m_device));
+                QCOMPARE(m_device.calls.at(m_device.calls.indexOf("mode "_s + ownFormat) + 1),
+                         "get "_s + (rule.mode < RuvoNodeWriteOnly ? triggerFormat : ownFormat));
+                QCOMPARE(typed(edit, "G"_s).isEmpty(), rule.hex);
+
+                // A show applies the rule to the sources that are on screen, and to no other.
+                m_device.node(ownFormat).mode = RuvoNodeReadWrite;
+                m_device.node(ownFormat).value = rule.hex ? "String"_s : "Hex"_s;
+                command.mode = RuvoNodeNotAvailable;
+                showAgain();
+                QCOMPARE(typed(edit, "G"_s).isEmpty(), rule.hex);
+                command.mode = RuvoNodeReadWrite;
+                showAgain();
+                QCOMPARE(typed(edit, "G"_s).isEmpty(), !rule.hex);
+            }
+        }
+    }
+
+    void switchesDecideWhichPagesShow()
+    {
+        m_device.node("TriggerStopConfig5Enable").failsReads = true;
+        show("Hold", {2, 4, 5});
+        QCOMPARE(shownPages(), (QVector<int>{1, 2, 4}));
+        m_device.node("TriggerStopConfig2Enable").value = false;
+        m_device.node("TriggerStopConfig3Enable").value = true;
+        showAgain();
+        QCOMPARE(shownPages(), (QVector<int>{1, 3, 4}));
+        QCOMPARE(m_device.calls.filter(QRegularExpression("[1-5]Enable"_s)),
+                 (QStringList{"get TriggerStopConfig2Enable"_s, "get TriggerStopConfig3Enable"_s,
+                              "get TriggerStopConfig4Enable"_s, "get TriggerStopConfig5Enable"_s}));
+        QVERIFY(m_device.writes().isEmpty());
+    }
+
+    void addShowsTheLowestHiddenPage()
+    {
+        show("Hold", {2, 4});
+        const Heard heard("TriggerStopConditionEvent"_s);
+        click(stopBlock(), "Add");
+        QCOMPARE(m_device.calls.first(), "set TriggerStopConfig3Enable=true"_s);
+        QCOMPARE(m_device.calls.mid(m_device.calls.size() - 10), conditionRefresh(AllPages));
+        QVariantMap payload = DeviceEvents::payload(&m_device);
+        payload.insert("TriggerStopConditionEvent"_s, QString());
+        QCOMPARE(heard.posts.at(0).at(0).toMap(), payload);
+
+        m_device.node("TriggerStopConfig5Enable").refusesWrites = true; // revealed all the same, until the next show
+        click(stopBlock(), "Add");
+        QCOMPARE(shownPages(), AllPages);
+        m_device.takeCalls();
+        click(stopBlock(), "Add");
+        QVERIFY2(m_device.calls.isEmpty(), "all pages are shown already");
+        showAgain();
+        QCOMPARE(shownPages(), (QVector<int>{1, 2, 3, 4}));
+
+        page(1)->hide();
+        m_device.takeCalls();
+        click(stopBlock(), "Add");
+        QVERIFY2(m_device.writes().isEmpty(), "the first configuration has no switch");
+        QVERIFY(page(1)->isVisible());
+        QCOMPARE(heard.posts.count(), 3);
+    }
+
+    void deleteSwitchesOff()
+    {
+        show("Hold", {2, 3});
+        m_device.node("TriggerStopConfig3Enable").refusesWrites = true;
+        click(title(3), "Delete");
+        QCOMPARE(m_device.takeCalls(),
+                 QStringList{"set TriggerStopConfig3Enable=false"_s} + conditionRefresh(AllPages));
+        QCOMPARE(shownPages(), (QVector<int>{1, 2}));
+
+        auto *const spin = editor<VySpinBox>(m_panel.get(), "TriggerStopConfig2FrameCount");
+        spin->setFocus();
+        QTest::keyClicks(spin, "9"_s);
+        page(2)->deleteStopConfig(); // as assistive technology would, without moving the focus first
+        QCOMPARE(shownPages(), QVector<int>{1});
+        QVERIFY2(QApplication::focusWidget() && QApplication::focusWidget()->isVisible(), "the focus moves on");
+        QCOMPARE(m_device.writes(), QStringList{"set TriggerStopConfig2Enable=false"_s});
+    }
+
     void acquisitionLocks()
     {
-        QFETCH(bool, otherThread);
-        const auto signal = [&](Device *device, int status) {
-            if (otherThread) {
-                std::thread([&] { grab(device, status); }).join();
-                QCoreApplication::processEvents();
-            } else {
-                grab(device, status);
-            }
-        };
-        m_device.node("TriggerStopConfig2Enable").value = true;
-        show("Hold");
-        const auto titlesEnabled = [this] {
-            int enabled = 0;
-            for (const auto *page : m_panel->findChildren<TriggerStopConfigWdg *>()) {
-                enabled += page->findChild<VyMultiCheckTitleWidget *>()->isEnabled() ? 1 : 0;
-            }
-            return enabled;
-        };
-        QCOMPARE(titlesEnabled(), 5);
+        show("Hold", {2});
+        QCOMPARE(enabledTitles(), 5);
         ScriptedDevice other;
-        signal(&other, 1);
+        grab(&other, 1);
         QVERIFY(m_device.calls.isEmpty());
-        QCOMPARE(titlesEnabled(), 5);
+        QCOMPARE(enabledTitles(), 5);
 
         lock(true);
-        signal(&m_device, 7);
-        QCOMPARE(titlesEnabled(), 0);
+        std::thread([this] { grab(&m_device, 7); }).join();
+        QVERIFY(m_device.calls.isEmpty());
+        QCoreApplication::processEvents();
+        QCOMPARE(enabledTitles(), 0);
         QVERIFY(!editor<VyLineEdit>(m_panel.get(), "TriggerStopConfig2UdpStopCMD")->isEnabled());
         click(stopBlock(), "Add");
-        QCOMPARE(visibleStopPages(), 2);
+        click(title(2), "Delete");
+        QCOMPARE(shownPages(), (QVector<int>{1, 2}));
         QVERIFY(m_device.writes().isEmpty());
 
         lock(false);
-        signal(&m_device, 0);
-        QCOMPARE(titlesEnabled(), 5);
+        grab(&m_device, 0);
+        QCOMPARE(enabledTitles(), 5);
         QVERIFY(editor<VySpinBox>(m_panel.get(), Port)->isEnabled());
         click(stopBlock(), "Add");
-        QCOMPARE(visibleStopPages(), 3);
-        QCOMPARE(m_device.writes(), QStringList{QStringLiteral("set TriggerStopConfig3Enable=true")});
+        QCOMPARE(shownPages(), (QVector<int>{1, 2, 3}));
+        QCOMPARE(m_device.writes(), QStringList{"set TriggerStopConfig3Enable=true"_s});
 
         // Shown anew, the panel finds out by itself.
         m_device.node("InputTriggerMode").mode = RuvoNodeNotAvailable; // anything but read/write
-        m_panel->hide();
-        m_panel->show();
-        QCOMPARE(titlesEnabled(), 0);
+        showAgain();
+        QCOMPARE(enabledTitles(), 0);
     }
 
-    void lockingAFocusedPageWritesNothing()
-    {
-        show("Hold");
-        editor<VySpinBox>(m_panel.get(), Port)->setFocus();
-        QTest::keyClicks(editor<VySpinBox>(m_panel.get(), Port), QStringLiteral("9"));
-        lock(true);
-        grab(&m_device, 1);
-        QCoreApplication::processEvents();
-        QVERIFY2(m_device.writes().isEmpty(), qPrintable(m_device.writes().join(QLatin1Char(' '))));
-        QCOMPARE(editor<VySpinBox>(m_panel.get(), Port)->value(), 7);
-    }
-
-    void hostEventsReadEverythingAgain_data()
-    {
-        QTest::addColumn<QString>("event");
-        QTest::addColumn<bool>("own");
-        QTest::addColumn<QStringList>("keys");
-        QTest::addColumn<bool>("reads");
-        const QString mode = QStringLiteral("TriggerMode");
-        QTest::newRow("user set") << "UserSetLoad" << true << QStringList() << true;
-        QTest::newRow("user set of another device") << "UserSetLoad" << false << QStringList() << false;
-        QTest::newRow("mode") << "DeviceParamChanged" << true << QStringList{mode} << true;
-        QTest::newRow("mode of another device") << "DeviceParamChanged" << false << QStringList{mode} << false;
-        QTest::newRow("something else") << "DeviceParamChanged" << true << QStringList() << false;
-        QTest::newRow("by the trigger page") << "DeviceParamChanged" << true
-                                             << QStringList{mode, QStringLiteral("TriggerConfigWdgImpl")} << false;
-    }
-    void hostEventsReadEverythingAgain()
-    {
-        QFETCH(QString, event);
-        QFETCH(bool, own);
-        QFETCH(QStringList, keys);
-        QFETCH(bool, reads);
-        show();
-        ScriptedDevice other;
-        QVariantMap payload = DeviceEvents::payload(own ? &m_device : &other);
-        for (const QString &key : keys) {
-            payload.insert(key, QVariant());
-        }
-        m_device.node("InputTriggerMode").value = QStringLiteral("Hold");
-        m_device.node(Port).value = 1234;
-        DeviceEvents::post(event, payload);
-        QCOMPARE(editor<VySpinBox>(m_panel.get(), Port)->value(), reads ? 1234 : 7);
-        QCOMPARE(stopBlock()->isVisible(), reads);
-        QCOMPARE(m_device.calls.isEmpty(), !reads);
-
-        m_device.takeCalls();
-        m_panel->hide();
-        DeviceEvents::post(event, payload);
-        QVERIFY2(m_device.calls.isEmpty(), "a panel that is not on screen waits for the next show");
-        m_panel->show();
-        QCOMPARE(editor<VySpinBox>(m_panel.get(), Port)->value(), 1234);
-        m_panel.reset();
-        m_device.takeCalls();
-        DeviceEvents::post(event, payload);
-        QVERIFY2(m_device.calls.isEmpty(), "a destroyed panel hears nothing");
-    }
-
-    void aReshowDropsThePendingEditAndKeepsTheFocus_data()
+    void aPendingEditIsDroppedAndTheFocusKept_data()
     {
         QTest::addColumn<QString>("node");
-        QTest::addColumn<bool>("locked");
-        QTest::newRow("spin box") << Port << false;
-        QTest::newRow("float") << "InputTriggerDelay" << false;
-        QTest::newRow("line edit") << "TriggerUdpStartCMD" << false;
-        QTest::newRow("stop page") << "TriggerStopConfig1FrameCount" << false;
-        QTest::newRow("locked meanwhile") << Port << true;
+        for (const char *node : {Port, "InputTriggerDelay", "TriggerUdpStartCMD", "TriggerStopConfig1FrameCount"}) {
+            QTest::newRow(node) << QString::fromLatin1(node);
+        }
     }
-    void aReshowDropsThePendingEditAndKeepsTheFocus()
+    void aPendingEditIsDroppedAndTheFocusKept()
     {
         QFETCH(QString, node);
-        QFETCH(bool, locked);
         m_host = std::make_unique<QWidget>();
         auto *const layout = new QVBoxLayout(m_host.get());
         layout->addWidget(new QLineEdit(m_host.get())); // where the focus would go to
         layout->addWidget(m_panel.get());
         m_host->show();
         show("Hold");
-        QWidget *const edited = m_panel->findChild<QWidget *>(node)->findChildren<QWidget *>().at(1);
-        edited->setFocus();
-        QTest::keyClicks(edited, QStringLiteral("4"));
-        lock(locked);
-        DeviceEvents::post(QStringLiteral("UserSetLoad"), DeviceEvents::payload(&m_device));
+        auto *const edited = row(m_panel.get(), node)->findChildren<QWidget *>().at(1);
+        const auto edit = [this, edited] {
+            lock(false);
+            grab(&m_device, 0);
+            edited->setFocus();
+            QTest::keyClicks(edited, "4"_s);
+        };
+        edit();
+        DeviceEvents::post("UserSetLoad"_s, DeviceEvents::payload(&m_device));
         QVERIFY2(m_device.writes().isEmpty(), "what stood there before the load is not written over it");
-        QCOMPARE(edited->hasFocus(), !locked);
+        QVERIFY(edited->hasFocus());
+
+        edit();
+        lock(true);
+        DeviceEvents::post("UserSetLoad"_s, DeviceEvents::payload(&m_device));
+        QVERIFY(!edited->hasFocus());
+        edit();
+        lock(true);
+        grab(&m_device, 1);
+        QVERIFY(!edited->hasFocus());
+        edit();
+        m_panel.reset();
+        QVERIFY2(m_device.writes().isEmpty(), "nor what is locked under the cursor, or destroyed");
     }
 
-    void destroyingAFocusedPanelWritesNothing_data()
+    void destroyingAWindowWritesNothing()
     {
-        QTest::addColumn<bool>("window");
-        QTest::newRow("a window") << true;
-        QTest::newRow("in a host's window") << false;
-    }
-    void destroyingAFocusedPanelWritesNothing()
-    {
-        QFETCH(bool, window);
-        m_host = std::make_unique<QWidget>();
-        if (!window) {
-            m_host->resize(500, 600);
-            m_panel->setParent(m_host.get());
-            m_host->show();
-        }
         show();
         auto *const spin = editor<VySpinBox>(m_panel.get(), Port);
         spin->setFocus();
-        QTest::keyClicks(spin, QStringLiteral("4"));
-        QVERIFY(spin->hasFocus());
+        QTest::keyClicks(spin, "4"_s);
         m_panel.reset();
         QVERIFY(m_device.writes().isEmpty());
     }
 
-    void theWheelScrolls_data()
-    {
-        QTest::addColumn<QString>("node");
-        QTest::addColumn<bool>("focused");
-        QTest::newRow("spin box") << Port << false;
-        QTest::newRow("float") << "InputTriggerDelay" << false;
-        QTest::newRow("combo box") << "InputTriggerMode" << false;
-        QTest::newRow("focused combo box") << "InputTriggerMode" << true;
-    }
-    void theWheelScrolls()
-    {
-        QFETCH(QString, node);
-        QFETCH(bool, focused);
-        show();
-        QWidget *const over = m_panel->findChild<QWidget *>(node)->findChildren<QWidget *>().at(1);
-        if (focused) {
-            over->setFocus();
-        }
-        const auto *const bar = find<VyScrollArea>()->verticalScrollBar();
-        const int before = bar->value();
-        const QPointF center = over->rect().center();
-        QWheelEvent wheel(center, over->mapToGlobal(center.toPoint()), {}, {0, -120}, Qt::NoButton, Qt::NoModifier,
-                          Qt::NoScrollPhase, false);
-        QSpontaneKeyEvent::setSpontaneous(&wheel);
-        qApp->notify(over, &wheel); // sendEvent() would take the mark off
-        QVERIFY(bar->value() > before);
-        QVERIFY(m_device.calls.isEmpty());
-        QCOMPARE(over->hasFocus(), focused);
-    }
-
     void tabVisitsTheEditorsFromTopToBottom()
     {
-        m_device.node("TriggerStopConfig3Enable").value = true;
-        show("Hold");
+        show("Hold", {3});
         click(stopBlock(), "Add"); // page 2, between two that have their editors already
         QCoreApplication::processEvents();
         find<VyBlockWidget>()->findChildren<QAbstractButton *>().first()->setFocus();
-        QPoint last(-1, -1);
+        const auto *const contents = m_panel->findChild<QWidget *>("scrollAreaWidgetContents"_s);
+        int last = -1;
         int stops = 0;
         QWidget *const first = QApplication::focusWidget();
         do {
             const QWidget *const focused = QApplication::focusWidget();
-            const QPoint here = focused->mapTo(m_panel->findChild<QWidget *>(QStringLiteral("scrollAreaWidgetContents")),
-                                               QPoint(0, 0));
-            QVERIFY2(here.y() >= last.y(), qPrintable(focused->accessibleName()));
+            const int here = focused->mapTo(contents, QPoint(0, 0)).y();
+            QVERIFY2(here >= last, qPrintable(focused->accessibleName()));
             last = here;
             ++stops;
             QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
@@ -404,29 +626,28 @@ private Q_SLOTS:
 
     void languageChange()
     {
-        m_device.node("InputTriggerSource").value = QStringLiteral("Udp");
+        m_device.node("InputTriggerSource").value = "Udp"_s;
         show("Hold");
-        const QStringList titles = shownTitles(m_panel.get());
+        QStringList expected = shownTitles(m_panel.get());
         TildeTranslator translator;
         QVERIFY(QCoreApplication::installTranslator(&translator));
         QCoreApplication::processEvents();
-        QStringList expected = titles;
         for (QString &title : expected) {
-            title.prepend(QLatin1Char('~'));
+            title.prepend(u'~');
         }
         QCOMPARE(shownTitles(m_panel.get()), expected);
-        QCOMPARE(find<VyTriggerConfigWidgetImpl>()->windowTitle(), QStringLiteral("~Form"));
+        QCOMPARE(find<VyTriggerConfigWidgetImpl>()->windowTitle(), "~Form"_s);
         QStringList names;
         for (auto *button : m_panel->findChildren<QAbstractButton *>()) {
             names.append(QAccessible::queryAccessibleInterface(button)->text(QAccessible::Name));
         }
-        QVERIFY(names.contains(QStringLiteral("~Trigger Config")));
-        QVERIFY(names.contains(QStringLiteral("~Trigger Stop Config")));
+        QVERIFY(names.contains("~Trigger Config"_s));
+        QVERIFY(names.contains("~Trigger Stop Config"_s));
         for (const auto *parameter : m_panel->findChildren<ParamPageWidgetItem *>()) {
-            QVERIFY(parameter->findChild<QLabel *>()->toolTip().startsWith(QLatin1Char('~')));
+            QVERIFY(parameter->findChild<QLabel *>()->toolTip().startsWith(u'~'));
         }
-        QCOMPARE(editor<QPushButton>(m_panel.get(), "InputSoftwareTrigger")->text(), QStringLiteral("~Execute"));
-        QCOMPARE(editor<VyComboBox>(m_panel.get(), "InputTriggerMode")->currentText(), QStringLiteral("~Hold"));
+        QCOMPARE(editor<QPushButton>(m_panel.get(), "InputSoftwareTrigger")->text(), "~Execute"_s);
+        QCOMPARE(editor<VyComboBox>(m_panel.get(), "InputTriggerMode")->currentText(), "~Hold"_s);
         QVERIFY(m_device.calls.isEmpty());
     }
 };
