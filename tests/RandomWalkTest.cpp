@@ -3,9 +3,8 @@
 #include <QApplication>
 #include <QCommandLineParser>
 #include <QElapsedTimer>
+#include <QProcess>
 
-#include <sys/mman.h>
-#include <sys/wait.h>
 #include <unistd.h>
 
 #include <cstdio>
@@ -15,76 +14,61 @@ namespace {
 constexpr uint kPatience = 60;      // seconds for a step
 constexpr int kShortening = 120000; // milliseconds
 
-/// What a walk tells while it is under way, in memory that outlives its process.
-struct Account
+/// Takes these steps and tells of each, until one is wrong.
+int take(const QString &seed, const QStringList &steps)
 {
-    int taken = 0;          // steps, the present one included
-    char fault[200] = {};   // empty also for a crash or an endless step
-    int writes[7] = {};     // by the type of the node
-    bool failed = false;
-};
-
-void takeAll(uint seed, const QVector<int> &steps, bool named, Account &account)
-{
-    int count = 1;
-    char program[] = "RandomWalkTest", *arguments[] = {program, nullptr};
-    QApplication app(count, arguments);
     QApplication::setDoubleClickInterval(0);
     QApplication::setKeyboardInputInterval(0); // nothing depends on how long a step takes
     QApplication::setCursorFlashTime(0);
-    PanelWalk walk(seed);
-    walk.onWrite = [&account](RuvoNodeType type) { ++account.writes[qBound(0, int(type), 6)]; };
-    for (const int number : steps) {
-        ++account.taken;
+    PanelWalk walk(seed.toUInt());
+    QString written;
+    walk.onWrite = [&written](RuvoNodeType type) { written += ", wrote type %1"_s.arg(type); };
+    for (const QString &number : steps) {
         alarm(kPatience);
-        const QString name = walk.step(number);
-        if (named) {
-            std::printf("%6d  %s\n", number, qPrintable(name));
-            std::fflush(stdout);
-        }
+        std::printf("\nstep %s: ", qPrintable(number));
+        std::fflush(stdout);
+        const QString name = walk.step(number.toInt());
+        std::printf("%s", qPrintable(name + std::exchange(written, {})));
         if (!walk.faults().isEmpty()) {
-            qstrncpy(account.fault, qPrintable(walk.faults().first()), sizeof account.fault);
-            return;
+            std::printf("\nfault: %s", qPrintable(walk.faults().first()));
+            return EXIT_FAILURE;
         }
     }
+    alarm(0);
+    return EXIT_SUCCESS;
 }
 
-/// Takes these steps in a process of its own, which may crash or hang.
-Account walk(uint seed, const QVector<int> &steps, bool named)
+/// Steps taken in a process of its own, which may crash or hang: then there is no fault in what it tells.
+struct Walk
 {
-    void *const shared = mmap(nullptr, sizeof(Account), PROT_READ | PROT_WRITE, MAP_SHARED | MAP_ANONYMOUS, -1, 0);
-    auto *const account = new (shared) Account;
-    std::fflush(stdout);
-    const pid_t child = fork();
-    if (child == 0) {
-        if (!named && !std::freopen("/dev/null", "w", stderr)) {
-            std::exit(EXIT_FAILURE);
-        }
-        takeAll(seed, steps, named, *account);
-        alarm(0);
-        std::exit(account->fault[0] ? EXIT_FAILURE : EXIT_SUCCESS);
+    Walk(const QString &seed, const QStringList &steps, bool complains = false)
+    {
+        QProcess process;
+        process.setProcessChannelMode(complains ? QProcess::ForwardedErrorChannel : QProcess::SeparateChannels);
+        process.start(QCoreApplication::applicationFilePath(), {"--seed"_s, seed, "--only"_s, steps.join(u',')});
+        process.waitForFinished(-1);
+        told = QString::fromUtf8(process.readAllStandardOutput());
+        taken = told.count("\nstep "_s);
+        fault = told.section("\nfault: "_s, 1);
+        failed = process.exitStatus() != QProcess::NormalExit || process.exitCode() != 0;
     }
-    int status = 0;
-    waitpid(child, &status, 0);
-    account->failed = status != 0;
-    const Account result = *account;
-    munmap(shared, sizeof(Account));
-    return result;
-}
+    QString told, fault;
+    int taken;
+    bool failed;
+};
 
 /// Leaves out what the fault does not need.
-QVector<int> shortened(uint seed, QVector<int> steps, const Account &whole)
+QStringList shortened(const QString &seed, QStringList steps, const Walk &whole)
 {
     QElapsedTimer timer;
     timer.start();
-    steps.resize(whole.taken);
+    steps = steps.mid(0, whole.taken);
     for (int length = steps.size() / 2; length > 0; length /= 2) {
         for (int from = 0; from < steps.size() && timer.elapsed() < kShortening;) {
-            QVector<int> fewer = steps;
-            fewer.remove(from, qMin(length, steps.size() - from));
-            const Account account = walk(seed, fewer, false);
-            if (account.failed && qstrcmp(account.fault, whole.fault) == 0) {
-                steps = fewer.mid(0, account.taken);
+            const QStringList fewer = steps.mid(0, from) + steps.mid(from + length);
+            const Walk walk(seed, fewer);
+            if (walk.failed && walk.fault == whole.fault) {
+                steps = fewer.mid(0, walk.taken);
             } else {
                 from += length;
             }
@@ -97,58 +81,45 @@ QVector<int> shortened(uint seed, QVector<int> steps, const Account &whole)
 
 int main(int argc, char *argv[])
 {
-    QStringList arguments;
-    for (int i = 0; i < argc; ++i) {
-        arguments.append(QString::fromLocal8Bit(argv[i]));
-    }
+    const QApplication application(argc, argv);
     QCommandLineParser parser;
-    parser.addOptions({{QStringLiteral("seed"), QStringLiteral("The first seed."), QStringLiteral("N"), QStringLiteral("1")},
-                       {QStringLiteral("seeds"), QStringLiteral("How many of them."), QStringLiteral("N"), QStringLiteral("1")},
-                       {QStringLiteral("steps"), QStringLiteral("Steps of each."), QStringLiteral("N"), QStringLiteral("1000")},
-                       {QStringLiteral("only"), QStringLiteral("Only these steps of the first."), QStringLiteral("3,17,20")}});
-    if (!parser.parse(arguments)) {
-        std::fprintf(stderr, "%s\n%s", qPrintable(parser.errorText()), qPrintable(parser.helpText()));
-        return 2;
+    parser.addOptions({{"seed"_s, "The first seed."_s, "N"_s, "1"_s}, {"seeds"_s, "How many of them."_s, "N"_s, "1"_s},
+                       {"steps"_s, "Steps of each."_s, "N"_s, "1000"_s},
+                       {"only"_s, "Only these steps of the first."_s, "3,17,20"_s}});
+    parser.process(application);
+    if (parser.isSet("only"_s)) {
+        return take(parser.value("seed"_s), parser.value("only"_s).split(u',', Qt::SkipEmptyParts));
     }
-    const uint first = parser.value(QStringLiteral("seed")).toUInt();
-    const uint end = first + parser.value(QStringLiteral("seeds")).toUInt();
-    QVector<int> steps;
-    for (const QString &number : parser.value(QStringLiteral("only")).split(QLatin1Char(','), Qt::SkipEmptyParts)) {
-        steps.append(number.toInt());
+    QStringList steps;
+    while (steps.size() < parser.value("steps"_s).toInt()) {
+        steps.append(QString::number(steps.size()));
     }
-    const bool replays = !steps.isEmpty();
-    while (!replays && steps.size() < parser.value(QStringLiteral("steps")).toInt()) {
-        steps.append(steps.size());
-    }
-
+    const uint first = parser.value("seed"_s).toUInt();
     QElapsedTimer timer;
     timer.start();
+    QVector<qint64> writes(7); // by the type of the node
     qint64 taken = 0;
-    qint64 writes[7] = {};
-    for (uint seed = first; seed < end; ++seed) {
-        const Account account = walk(seed, steps, replays);
-        if (account.failed && replays) {
-            std::printf("%s\n", account.fault);
+    for (uint number = first; number < first + parser.value("seeds"_s).toUInt(); ++number) {
+        const QString seed = QString::number(number);
+        const Walk walk(seed, steps);
+        if (walk.failed) {
+            std::printf("Seed %u fails at step %d: %s\n", number, walk.taken - 1, qPrintable(walk.fault));
+            std::fflush(stdout);
+            const QStringList few = shortened(seed, steps, walk);
+            std::printf("%s\nShortened, and replayed by: ./test walk --seed %u --only %s\n",
+                        qPrintable(Walk(seed, few, true).told), number, qPrintable(few.join(u',')));
             return EXIT_FAILURE;
         }
-        if (account.failed) {
-            const QVector<int> few = shortened(seed, steps, account);
-            walk(seed, few, true);
-            QStringList numbers;
-            for (const int number : few) {
-                numbers.append(QString::number(number));
-            }
-            std::printf("Seed %u fails at step %d: %s\nShortened, and replayed by: ./test walk --seed %u --only %s\n", seed,
-                        account.taken - 1, account.fault, seed, qPrintable(numbers.join(QLatin1Char(','))));
-            return EXIT_FAILURE;
+        taken += walk.taken;
+        for (int type = RuvoNodeBoolean; type <= RuvoNodeString; ++type) {
+            writes[type] += walk.told.count("wrote type %1"_s.arg(type));
         }
-        taken += account.taken;
-        std::transform(std::begin(writes), std::end(writes), account.writes, writes, std::plus<>());
-        std::printf("seed %u, %lld steps so far, %.0f a second\n", seed, taken, 1000.0 * double(taken) / double(timer.elapsed()));
+        const double seconds = double(timer.elapsed()) / 1000;
+        std::printf("seed %u, %lld steps so far, %.0f a second\n", number, taken, double(taken) / seconds);
         std::fflush(stdout);
     }
     std::printf("Written: %lld booleans, %lld integers, %lld floats, %lld entries, %lld texts; run: %lld commands\n", writes[1],
                 writes[2], writes[3], writes[4], writes[6], writes[5]);
     // A walk on which nothing happens shows nothing.
-    return taken < 2000 || std::all_of(writes + 1, writes + 7, [](qint64 count) { return count > 0; }) ? EXIT_SUCCESS : EXIT_FAILURE;
+    return taken < 2000 || writes.mid(1).count(0) == 0 ? EXIT_SUCCESS : EXIT_FAILURE;
 }
