@@ -1,10 +1,13 @@
 #include "CLabel.h"
 
 #include <QFontMetrics>
+#include <QHash>
+#include <QPair>
 
 namespace {
 // Kept free at the right, so that the text does not touch the editor beside it.
 constexpr int kRightMargin = 5;
+constexpr int kMostKnown = 1000; // texts
 }
 
 CLabel::CLabel(QWidget *parent)
@@ -30,5 +33,18 @@ void CLabel::resizeEvent(QResizeEvent *event)
 
 void CLabel::showElided()
 {
-    setText(fontMetrics().elidedText(m_fullText, Qt::ElideRight, width() - kRightMargin));
+    // Labels repeat, and are as wide as each other: a text is measured once.
+    static QHash<QPair<QString, int>, QString> known;
+    static QFont knownFont;
+    static int knownResolution;
+    if (known.size() == kMostKnown || knownFont != font() || knownResolution != logicalDpiX()) {
+        known.clear();
+        knownFont = font();
+        knownResolution = logicalDpiX();
+    }
+    QString &elided = known[{m_fullText, width()}];
+    if (elided.isEmpty()) {
+        elided = fontMetrics().elidedText(m_fullText, Qt::ElideRight, width() - kRightMargin);
+    }
+    setText(elided);
 }

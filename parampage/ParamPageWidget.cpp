@@ -5,6 +5,22 @@
 
 #include <QVBoxLayout>
 
+namespace {
+
+/// Lets a widget be painted again, and all in it, without each of them asking for it.
+void allowUpdates(QWidget *widget)
+{
+    widget->setAttribute(Qt::WA_UpdatesDisabled, false);
+    for (QObject *child : widget->children()) {
+        auto *const part = qobject_cast<QWidget *>(child);
+        if (part && !part->isWindow() && !part->testAttribute(Qt::WA_ForceUpdatesDisabled)) {
+            allowUpdates(part);
+        }
+    }
+}
+
+} // namespace
+
 ParamPageWidget::ParamPageWidget(Device *device, QWidget *parent)
     : QWidget(parent)
     , m_device(device)
@@ -34,13 +50,29 @@ void ParamPageWidget::updateWidget()
     if (!isVisible()) {
         return;
     }
-    setUpdatesEnabled(false); // one repaint for all rows
+    // One repaint, and one layout, for all rows: each that is shown would have the whole window laid out at once.
+    setUpdatesEnabled(false);
+    m_layout->setEnabled(false);
     for (QWidget *item : qAsConst(m_items)) {
         if (auto *const row = qobject_cast<ParamPageWidgetItem *>(item)) {
             row->refresh();
         }
     }
+    m_layout->setEnabled(true);
+    // Laid out now, before the paint that is already asked for. Later it would be a second paint.
+    for (QWidget *widget = this; widget && widget->layout() && widget->layout()->activate();) {
+        widget = widget->parentWidget();
+    }
+    for (QWidget *item : qAsConst(m_items)) {
+        item->setAttribute(Qt::WA_ForceUpdatesDisabled); // the page has itself painted, with all that is in it
+    }
     setUpdatesEnabled(true);
+    for (QWidget *item : qAsConst(m_items)) {
+        item->setAttribute(Qt::WA_ForceUpdatesDisabled, false);
+        if (updatesEnabled()) {
+            allowUpdates(item);
+        }
+    }
     updateGeometry(); // rows may have come or gone
 }
 

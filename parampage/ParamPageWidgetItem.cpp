@@ -76,6 +76,15 @@ void highlight(QAbstractItemView *list, const QComboBox *combo, int row)
     list->setCurrentIndex(list->model()->index(row < 0 ? combo->currentIndex() : row, combo->modelColumn()));
 }
 
+bool holds(const QComboBox *combo, const QList<QString> &texts)
+{
+    int same = 0;
+    while (same < combo->count() && same < texts.size() && combo->itemText(same) == texts.at(same)) {
+        ++same;
+    }
+    return same == combo->count() && same == texts.size();
+}
+
 } // namespace
 
 ParamPageWidgetItem::ParamPageWidgetItem(Device *device, const QString &label, const QString &nodeName,
@@ -88,6 +97,7 @@ ParamPageWidgetItem::ParamPageWidgetItem(Device *device, const QString &label, c
 {
     setObjectName(m_nodeName); // lets scripts that drive the user interface find the row
     m_label->setAttribute(Qt::WA_TranslucentBackground); // the row's own ground shows through
+    m_label->setAttribute(Qt::WA_Resized); // the row decides on its size: a show need not measure it
     setFixedHeight(kRowHeight);
     m_label->setFullText(translated(m_labelText));
 }
@@ -113,7 +123,9 @@ void ParamPageWidgetItem::refresh()
     if (shown) {
         m_editor->setEnabled(m_mode != RuvoNodeReadOnly);
     }
-    setHidden(!shown);
+    if (isHidden() == shown) { // once more would be a whole show, of all the row holds
+        setHidden(!shown);
+    }
 }
 
 void ParamPageWidgetItem::retranslate()
@@ -122,7 +134,7 @@ void ParamPageWidgetItem::retranslate()
     if (!m_editor) {
         return;
     }
-    focusEditor()->setAccessibleName(translated(m_labelText));
+    focusEditor()->setAccessibleName(m_label->toolTip());
     if (auto *const combo = qobject_cast<QComboBox *>(m_editor)) {
         const QSignalBlocker blocker(combo);
         const int index = combo->currentIndex();
@@ -169,11 +181,7 @@ void ParamPageWidgetItem::leaveEvent(QEvent *event)
 void ParamPageWidgetItem::paintEvent(QPaintEvent *event)
 {
     QWidget::paintEvent(event);
-    QPainter painter(this);
-    const QBrush brush(m_background, Qt::SolidPattern);
-    painter.setBrush(brush);
-    painter.setPen(QPen(brush, 0));
-    painter.drawRect(event->rect());
+    QPainter(this).fillRect(event->rect(), m_background);
 }
 
 void ParamPageWidgetItem::resizeEvent(QResizeEvent *event)
@@ -189,7 +197,7 @@ void ParamPageWidgetItem::showEvent(QShowEvent *event)
         m_nodeType = type;
         m_editor = createEditor();
         m_editor->setFixedHeight(kEditorHeight);
-        focusEditor()->setAccessibleName(translated(m_labelText));
+        focusEditor()->setAccessibleName(m_label->toolTip());
         // Built late, it would be the last stop of the whole window.
         KeyboardFocus::placeBehind(this, focusEditor());
 
@@ -198,6 +206,8 @@ void ParamPageWidgetItem::showEvent(QShowEvent *event)
         layout->addWidget(m_editor);
         layout->setContentsMargins(0, 0, 0, 0);
         setLayout(layout);
+        m_editor->show(); // at once: what Qt posts to show it later lays the whole window out
+        layout->activate();
     }
     QWidget::showEvent(event);
 }
@@ -296,9 +306,7 @@ void ParamPageWidgetItem::readInt()
     }
     auto *const spin = static_cast<VySpinBox *>(m_editor);
     const QSignalBlocker blocker(spin);
-    spin->setMinimum(min);
-    spin->setMaximum(max == -1 ? std::numeric_limits<int>::max() : max);
-    spin->setSingleStep(inc);
+    setRange(spin, min, max == -1 ? std::numeric_limits<int>::max() : max, inc);
     spin->setValue(value);
 }
 
@@ -315,9 +323,7 @@ void ParamPageWidgetItem::readFloat()
     const QSignalBlocker blocker(spin);
     // A limit that is no number is none: a spin box would take it for the value.
     using Limits = std::numeric_limits<float>;
-    spin->setMinimum(static_cast<double>(std::isnan(min) ? Limits::lowest() : min));
-    spin->setMaximum(static_cast<double>(std::isnan(max) ? Limits::max() : max));
-    spin->setSingleStep(static_cast<double>(inc));
+    setRange(spin, std::isnan(min) ? Limits::lowest() : min, std::isnan(max) ? Limits::max() : max, inc);
     spin->setValue(static_cast<double>(value));
     m_valueRead = value;
     m_textShown = spin->text();
@@ -332,16 +338,33 @@ void ParamPageWidgetItem::readEnum()
     }
     auto *const combo = static_cast<VyComboBox *>(m_editor);
     const auto before = combo->property(kValueList).value<QList<QString>>();
-    auto *const list = openList(combo);
-    const int highlighted = highlightedRow(list);
-    // Stored as the very type it is read back as: a QStringList in a QVariant reads back empty.
-    combo->setProperty(kValueList, QVariant::fromValue<QList<QString>>(entries));
+    const QList<QString> texts = translated(entries);
     const QSignalBlocker blocker(combo);
-    combo->clear();
-    combo->addItems(translated(entries));
-    combo->setCurrentText(translated(value));
-    if (list) {
-        highlight(list, combo, entries == before ? highlighted : entries.indexOf(before.value(highlighted)));
+    if (entries != before || !holds(combo, texts)) { // the language may have changed
+        auto *const list = openList(combo);
+        const int highlighted = highlightedRow(list);
+        // Stored as the very type it is read back as: a QStringList in a QVariant reads back empty.
+        combo->setProperty(kValueList, QVariant::fromValue<QList<QString>>(entries));
+        combo->clear();
+        combo->addItems(texts);
+        if (list) {
+            highlight(list, combo, entries == before ? highlighted : entries.indexOf(before.value(highlighted)));
+        }
+    }
+    // A value that is not among the entries leaves the first chosen, as in a list just filled.
+    combo->setCurrentIndex(texts.isEmpty() ? -1 : std::max(0, texts.indexOf(translated(value))));
+}
+
+/// Even an equal range would have an editor forget its size, and the whole window laid out again.
+template <typename Spin, typename Number>
+void ParamPageWidgetItem::setRange(Spin *spin, Number min, Number max, Number inc)
+{
+    const std::array<double, 3> range{double(min), double(max), double(inc)};
+    if (range != m_range || min > max) { // what an editor makes of limits in the wrong order depends on those before
+        m_range = range;
+        spin->setMinimum(min);
+        spin->setMaximum(max);
+        spin->setSingleStep(inc);
     }
 }
 

@@ -7,6 +7,8 @@
 #include <QVariant>
 #include <QWidget>
 
+#include <array>
+
 class CLabel;
 class Device;
 class QValidator;
@@ -60,6 +62,8 @@ private:
     void readFloat();
     void readEnum();
     void readString();
+    template <typename Spin, typename Number>
+    void setRange(Spin *spin, Number min, Number max, Number inc);
     QWidget *focusEditor() const;
     template <typename Value>
     Value edited(const QString &shown, Value value) const;
@@ -78,4 +82,5 @@ private:
     RuvoNodeAccessMode m_mode = RuvoNodeNotImplemented; // as answered last
     QVariant m_valueRead; // the float or text that the device holds ...
     QString m_textShown;  // ... and what the editor made of it
+    std::array<double, 3> m_range{qQNaN()}; // limits and step of a number, as last given to the editor
 };

@@ -160,6 +160,12 @@ private Q_SLOTS:
         QTest::keyClick(box.view(), Qt::Key_Return);
         QVERIFY(!list->isVisible());
         QCOMPARE(box.currentIndex(), 1);
+
+        VyComboBox closed(nullptr);
+        closed.addItems({"Off"_s, "On"_s});
+        closed.show();
+        closed.hide();
+        QVERIFY2(!closed.findChild<QAbstractItemView *>(), "a list that nobody has opened takes half a panel's memory");
     }
 
     void block()
@@ -202,7 +208,10 @@ private Q_SLOTS:
 
     void darkApplication()
     {
-        const auto restore = qScopeGuard([before = QApplication::palette()] { QApplication::setPalette(before); });
+        const auto restore = qScopeGuard([palette = QApplication::palette(), style = QApplication::style()->objectName()] {
+            QApplication::setStyle(style);
+            QApplication::setPalette(palette);
+        });
         QPalette dark(QColor(40, 40, 40)); // light text on dark grounds
         dark.setColor(QPalette::Highlight, QColor(200, 40, 40));
         QApplication::setPalette(dark);
@@ -219,7 +228,13 @@ private Q_SLOTS:
         QTest::keyClick(box, Qt::Key_F4);
         QWidget *const list = box->view()->viewport();
         QVERIFY(list->grab().toImage().pixelColor(list->rect().bottomRight()).lightness() > 200);
-        for (const QWidget *widget : QList<QWidget *>{contents, box, late, late->findChild<QLineEdit *>()}) {
+        const QList<QWidget *> widgets{contents, box, late, late->findChild<QLineEdit *>()};
+        QVERIFY(late->palette().isCopyOf(contents->palette())); // each of its own would have pictures of its own
+        for (int i = 0; i < 2 * widgets.size(); ++i) {
+            if (i == widgets.size()) {
+                QApplication::setStyle("Windows"_s); // polishes everything anew
+            }
+            const QWidget *const widget = widgets.at(i % widgets.size());
             const QPalette colors = widget->palette();
             QVERIFY(contrast(colors.color(QPalette::WindowText), Qt::white) > 7);
             QVERIFY(contrast(colors.color(QPalette::Text), colors.color(QPalette::Base)) > 7);

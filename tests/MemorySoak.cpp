@@ -52,13 +52,14 @@ static void buildAndDestroy(int number)
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
 }
 
-static void soak(const char *what, int count, const std::function<void(int)> &action)
+/// What it does first, before anything is measured, fills caches.
+static void soak(const char *what, int first, int count, const std::function<void(int)> &action)
 {
     size_t before = 0;
     const qint64 start = QDateTime::currentMSecsSinceEpoch();
-    for (int tenth = 0, done = -qBound(15, count / 2, 200); tenth <= 10; ++tenth) { // what is below 0 fills caches
+    for (int tenth = 0, done = -first; tenth <= 10; ++tenth) {
         while (done < count * tenth / 10) {
-            action(300 + done++);
+            action(first + done++);
         }
         device.reset(); // the heap is measured in the same state every time
         action(reads = 0);
@@ -77,13 +78,14 @@ int main(int argc, char *argv[])
     const QApplication application(argc, argv);
     QPixmapCache::setCacheLimit(0); // it forgets by the clock
     device.onCall = change;
-    soak("panels", argc > 1 ? std::atoi(argv[1]) : 10000, buildAndDestroy);
+    const int panels = argc > 1 ? std::atoi(argv[1]) : 10000;
+    soak("panels", qBound(15, panels / 2, 200), panels, buildAndDestroy);
     good &= QApplication::allWidgets().isEmpty();
     VyTriggerConfigWdg panel;
     panel.setVyDevice(&device);
     panel.show();
     const auto pages = panel.findChildren<ParamPageWidget *>();
-    soak("refreshes", argc > 2 ? std::atoi(argv[2]) : 1000000, [&](int number) {
+    soak("refreshes", 1000, argc > 2 ? std::atoi(argv[2]) : 1000000, [&](int number) {
         number % 1000 ? pages.at(number % pages.size())->updateWidget()
                       : DeviceEvents::post("UserSetLoad"_s, DeviceEvents::payload(&device));
         number % 50 ? void() : QTest::qWait(1); // until nothing is posted any more

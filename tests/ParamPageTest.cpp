@@ -9,11 +9,13 @@
 #include "parampage/ParamPageWidget.h"
 
 #include <VyCommonGUI/VyLineEdit.h>
+#include <VyCommonGUI/VyScrollArea.h>
 #include <VyCommonGUI/VySpinBox.h>
 #include <VyCommonGUI/VyToggleSwitch.h>
 #include <VyViewerCore/CoreEventBus.h>
 
 #include <QPointer>
+#include <QVBoxLayout>
 #include <QtTest>
 
 #include <memory>
@@ -220,6 +222,102 @@ private Q_SLOTS:
         QCOMPARE(editor<VySpinBox>()->value(), 70000);
     }
 
+    void aRefreshedRowShowsWhatANewOneWould()
+    {
+        using Node = ScriptedDevice::Node;
+        const auto entry = [](const char *value, const QList<QString> &entries) {
+            return Node{RuvoNodeEnumeration, QString::fromLatin1(value), entries};
+        };
+        const auto number = [](RuvoNodeType type, double value, double min, double max, double inc) {
+            return Node{type, value, {}, RuvoNodeReadWrite, min, max, inc};
+        };
+        const QVector<QVector<Node>> courses{
+            {entry("b", {"a"_s, "b"_s}), entry("a", {"a"_s, "b"_s}), entry("b", {"a"_s, "b"_s}), entry("c", {"a"_s, "b"_s}),
+             entry("b", {"a"_s, "b"_s, "b"_s}), entry("b", {"b"_s, "a"_s}), entry("b", {}), entry("~a", {"b"_s, "a"_s})},
+            {number(RuvoNodeInteger, 5, 0, 9, 1), number(RuvoNodeInteger, 5, 0, 9, 2), number(RuvoNodeInteger, 50, 7, 60, 2),
+             number(RuvoNodeInteger, 5, 9, 6, 1), number(RuvoNodeInteger, -4, -8, -1, 1)},
+            {number(RuvoNodeFloat, 0.5, 0.00012, 9, 1), number(RuvoNodeFloat, 0.00011, 0.0001, 9, 1),
+             number(RuvoNodeFloat, 3, 2, 4, 1), number(RuvoNodeFloat, 1, 0, 2, 0.25)},
+        };
+        const auto shown = [](const QWidget *page) {
+            QStringList all;
+            auto *const combo = page->findChild<VyComboBox *>();
+            const QWidget *const spin = page->findChild<QAbstractSpinBox *>();
+            for (const char *name : {"minimum", "maximum", "singleStep", "value", "text"}) {
+                all.append(spin ? spin->property(name).toString() : QString());
+            }
+            for (int i = 0; combo && i < combo->count(); ++i) {
+                all.append(combo->itemText(i) + (i == combo->currentIndex() ? " <"_s : QString()));
+            }
+            return combo ? all + combo->property("valueList").value<QList<QString>>() : all;
+        };
+        for (const QVector<Node> &course : courses) {
+            init();
+            show(course.first().type, course.first().value);
+            TildeTranslator translator;
+            for (int step = 0; step < 2 * course.size(); ++step) {
+                m_device.node("Node") = course.at(step % course.size());
+                m_page->updateWidget();
+                ParamPageWidget other(&m_device, nullptr);
+                other.addItem(new ParamPageWidgetItem(&m_device, "Label"_s, "Node"_s, &other));
+                other.show();
+                QCOMPARE(shown(m_page.get()), shown(&other));
+                if (step == course.size()) { // the event that tells of it comes later
+                    QVERIFY(QCoreApplication::installTranslator(&translator));
+                }
+            }
+        }
+    }
+
+    void aRefreshIsLaidOutAndPaintedOnce()
+    {
+        auto *const first = addRow("One"_s);
+        auto *const second = addRow("Two"_s);
+        VyScrollArea area(nullptr);
+        auto *const contents = new QWidget;
+        auto *const layout = new QVBoxLayout(contents);
+        layout->addWidget(m_page.get());
+        layout->addStretch();
+        const auto takeBack = qScopeGuard([this] { m_page->setParent(nullptr); });
+        area.setWidgetResizable(true);
+        area.setWidget(contents);
+        m_device.node("One").mode = RuvoNodeNotAvailable;
+        area.resize(300, 200);
+        area.show();
+        QVERIFY(QTest::qWaitForWindowActive(&area));
+        QTest::qWait(1);
+        struct PaintCounter : QObject
+        {
+            int paints = 0;
+            bool eventFilter(QObject *, QEvent *event) override
+            {
+                paints += event->type() == QEvent::Paint;
+                return false;
+            }
+        } counter;
+        second->installEventFilter(&counter);
+        m_device.node("One").mode = RuvoNodeReadWrite;
+        m_page->updateWidget();
+        QCOMPARE(second->y() - first->y(), 41);
+        QTest::qWait(1);
+        QCOMPARE(counter.paints, 1);
+
+        // Everything can be painted again, but for what somebody else does not want to be.
+        const auto parts = m_page->findChildren<QWidget *>();
+        QWidget *const kept = second->findChild<QLabel *>();
+        for (QWidget *refused : {kept, m_page->parentWidget(), static_cast<QWidget *>(nullptr)}) {
+            if (refused) {
+                refused->setUpdatesEnabled(false);
+            }
+            m_page->updateWidget();
+            QCOMPARE(kept->updatesEnabled(), !refused);
+            if (refused) {
+                refused->setUpdatesEnabled(true);
+            }
+            QVERIFY(std::all_of(parts.begin(), parts.end(), [](const QWidget *part) { return part->updatesEnabled(); }));
+        }
+    }
+
     void everyEditIsWrittenAndReadBack()
     {
         const struct { RuvoNodeType type; QVariant value; QVector<Qt::Key> keys; QString call; } rows[] = {
@@ -267,6 +365,17 @@ private Q_SLOTS:
         QCOMPARE(m_device.writes(), QStringList{"set Node=Hold"_s});
         QCOMPARE(combo->currentText(), "~Hold"_s);
 
+        // Of entries with one translation the first is shown.
+        struct : QTranslator
+        {
+            bool isEmpty() const override { return false; }
+            QString translate(const char *, const char *, const char *, int) const override { return "one"_s; }
+        } same;
+        QVERIFY(QCoreApplication::installTranslator(&same));
+        m_device.node(Node).value = "Hold"_s;
+        row->refresh();
+        QCOMPARE(combo->currentIndex(), 0);
+
         // Outside the list nothing is written.
         m_device.takeCalls();
         QSignalSpy changed(row, &ParamPageWidgetItem::valueChanged);
@@ -302,6 +411,10 @@ private Q_SLOTS:
         QVERIFY(label->text().endsWith(QChar(0x2026)));
         QVERIFY(label->fontMetrics().horizontalAdvance(label->text()) <= 145);
         QCOMPARE(label->toolTip(), text);
+        label->setFont(QFont(label->font().family(), 30));
+        label->setFullText(text);
+        QVERIFY(label->fontMetrics().horizontalAdvance(label->text()) <= 145);
+        label->setFont(QFont());
         m_page->resize(2000, 200);
         QTRY_COMPARE(label->text(), text);
     }

@@ -1,6 +1,8 @@
 #include "LightGround.h"
 
 #include <QChildEvent>
+#include <QCoreApplication>
+#include <QLabel>
 #include <QWidget>
 
 namespace VyViewer {
@@ -60,6 +62,8 @@ bool LightGround::eventFilter(QObject *watched, QEvent *event)
         if (auto *const child = qobject_cast<QWidget *>(polished)) { // clazy:exclude=child-event-qobject-cast
             adopt(child);
         }
+    } else if (event->type() == QEvent::StyleChange && watched == parent()) {
+        adopt(static_cast<QWidget *>(watched)); // everything was polished anew
     }
     return QObject::eventFilter(watched, event);
 }
@@ -69,8 +73,18 @@ void LightGround::adopt(QWidget *widget)
     if (widget->isWindow() && widget != parent()) {
         return; // stands on a ground of its own
     }
-    widget->setPalette(m_palette);
-    widget->installEventFilter(this);
+    // With this a widget inherits below a style sheet too, and shares what it inherits. A palette of its own is half a
+    // kilobyte, and the style keeps pictures of its own for every palette.
+    constexpr auto kInherit = Qt::AA_UseStyleSheetPropagationInWidgetStyles;
+    const bool before = QCoreApplication::testAttribute(kInherit);
+    QCoreApplication::setAttribute(kInherit);
+    widget->setPalette(widget == parent() ? m_palette : QPalette());
+    QCoreApplication::setAttribute(kInherit, before);
+
+    // An editor or a label has all its children by now. Whatever else there is may be given more.
+    if (widget->focusPolicy() == Qt::NoFocus && !qobject_cast<QLabel *>(widget)) {
+        widget->installEventFilter(this);
+    }
     for (QObject *child : widget->children()) {
         if (auto *const childWidget = qobject_cast<QWidget *>(child)) {
             adopt(childWidget);

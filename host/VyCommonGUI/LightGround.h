@@ -10,7 +10,7 @@ namespace VyViewer {
 /// Gives a widget and everything in it, also what comes later, colours that are made for a white ground,
 /// whatever the application's palette. The colours of selections and links stay the application's.
 ///
-/// Every descendant is given the palette itself: below a widget with a style sheet, palettes are not inherited.
+/// Qt has palettes inherited only where there is no style sheet above; here they are everywhere.
 class LightGround : public QObject
 {
     Q_OBJECT

@@ -8,60 +8,45 @@
 #include <QStyle>
 #include <QStylePainter>
 
-#include <functional>
-
 namespace VyViewer {
 
 namespace {
 
 constexpr int kShortestContents = 8; // characters
+constexpr int kLongestMeasured = 40; // characters of an entry that may set the preferred width
 constexpr int kLongestShown = 1000;  // characters of the current entry: with a million a paint takes long
 
-/// Paints a widget in place of its own paint event.
-class Painter : public QObject
+} // namespace
+
+/// Paints combo boxes in place of their own paint event.
+class VyComboBox::ClosedBox : public QObject
 {
 public:
-    Painter(QWidget *painted, std::function<void()> paint) : QObject(painted), m_paint(std::move(paint))
-    {
-        painted->installEventFilter(this);
-    }
-
-    bool eventFilter(QObject *, QEvent *event) override
+    bool eventFilter(QObject *watched, QEvent *event) override
     {
         if (event->type() == QEvent::Paint) {
-            m_paint();
+            static_cast<VyComboBox *>(watched)->paintClosed();
         }
         return event->type() == QEvent::Paint;
     }
-
-private:
-    const std::function<void()> m_paint;
 };
-
-} // namespace
 
 VyComboBox::VyComboBox(QWidget *parent)
     : QComboBox(parent)
 {
-    // One long entry must not widen everything around the closed box.
-    setSizeAdjustPolicy(AdjustToMinimumContentsLengthWithIcon);
+    static ClosedBox painter; // one for all boxes
+    installEventFilter(&painter);
+    WheelGuard::guard(this, WheelGuard::Pass::Never);
+
+    // One long entry must not widen everything around the closed box. The policy that says so has the list built, which
+    // most boxes never open: not before there is such an entry.
     setMinimumContentsLength(kShortestContents);
-    new WheelGuard(this, WheelGuard::Pass::Never);
-    // The current entry in one line and, where it is cut, with an ellipsis.
-    new Painter(this, [this] {
-        QStyleOptionComboBox option;
-        initStyleOption(&option);
-        QString text = option.currentText.left(kLongestShown);
-        for (const QChar end : {QChar(QChar::LineFeed), QChar(QChar::CarriageReturn), QChar(QChar::LineSeparator),
-                                QChar(QChar::ParagraphSeparator)}) {
-            text.replace(end, QLatin1Char(' '));
+    connect(model(), &QAbstractItemModel::rowsInserted, this, [this](const QModelIndex &, int first, int last) {
+        for (int row = first; row <= last; ++row) {
+            if (itemText(row).size() > kLongestMeasured) {
+                setSizeAdjustPolicy(AdjustToMinimumContentsLengthWithIcon);
+            }
         }
-        const QRect room = style()->subControlRect(QStyle::CC_ComboBox, &option, QStyle::SC_ComboBoxEditField, this);
-        // Less the pixel that a style keeps free at each end.
-        option.currentText = fontMetrics().elidedText(text, Qt::ElideRight, room.width() - 2);
-        QStylePainter painter(this);
-        painter.drawComplexControl(QStyle::CC_ComboBox, option);
-        painter.drawControl(QStyle::CE_ComboBoxLabel, option);
     });
 }
 
@@ -84,7 +69,27 @@ void VyComboBox::showPopup()
 void VyComboBox::hidePopup()
 {
     QComboBox::hidePopup();
-    view()->setMinimumWidth(0);
+    if (auto *const list = findChild<QAbstractItemView *>()) { // view() would build it, for a box that is but hidden
+        list->setMinimumWidth(0);
+    }
+}
+
+/// The current entry in one line and, where it is cut, with an ellipsis.
+void VyComboBox::paintClosed()
+{
+    QStyleOptionComboBox option;
+    initStyleOption(&option);
+    QString text = option.currentText.left(kLongestShown);
+    for (const QChar end : {QChar(QChar::LineFeed), QChar(QChar::CarriageReturn), QChar(QChar::LineSeparator),
+                            QChar(QChar::ParagraphSeparator)}) {
+        text.replace(end, QLatin1Char(' '));
+    }
+    const QRect room = style()->subControlRect(QStyle::CC_ComboBox, &option, QStyle::SC_ComboBoxEditField, this);
+    // Less the pixel that a style keeps free at each end.
+    option.currentText = fontMetrics().elidedText(text, Qt::ElideRight, room.width() - 2);
+    QStylePainter painter(this);
+    painter.drawComplexControl(QStyle::CC_ComboBox, option);
+    painter.drawControl(QStyle::CE_ComboBoxLabel, option);
 }
 
 } // namespace VyViewer

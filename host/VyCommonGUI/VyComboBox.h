@@ -17,6 +17,10 @@ public:
 protected:
     void showPopup() override;
     void hidePopup() override;
+
+private:
+    class ClosedBox;
+    void paintClosed();
 };
 
 } // namespace VyViewer

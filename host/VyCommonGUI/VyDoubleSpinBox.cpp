@@ -42,7 +42,7 @@ VyDoubleSpinBox::VyDoubleSpinBox(QWidget *parent)
     : QDoubleSpinBox(parent)
 {
     setDecimals(kFewestDecimals);
-    new WheelGuard(this, WheelGuard::Pass::WhenFocused);
+    WheelGuard::guard(this, WheelGuard::Pass::WhenFocused);
 }
 
 VyDoubleSpinBox::~VyDoubleSpinBox() = default;

@@ -8,7 +8,7 @@ namespace VyViewer {
 VySpinBox::VySpinBox(QWidget *parent)
     : QSpinBox(parent)
 {
-    new WheelGuard(this, WheelGuard::Pass::WhenFocused);
+    WheelGuard::guard(this, WheelGuard::Pass::WhenFocused);
 }
 
 VySpinBox::~VySpinBox() = default;

@@ -7,6 +7,7 @@
 #include <QApplication>
 #include <QKeyEvent>
 #include <QPainter>
+#include <QPixmapCache>
 
 #include <utility>
 
@@ -121,6 +122,28 @@ void VyToggleSwitch::mouseMoveEvent(QMouseEvent *event)
 void VyToggleSwitch::paintEvent(QPaintEvent *)
 {
     QPainter painter(this);
+    if (m_pressed || underMouse() || hasFocus()) {
+        paint(painter);
+        return;
+    }
+    // At rest it looks like all others in its state; smooth shapes take long to paint.
+    const QString key = QStringLiteral("VyToggleSwitch %1 %2 %3 %4 %5 %6 %7 %8")
+                            .arg(width()).arg(height()).arg(fontMetrics().height()).arg(devicePixelRatioF())
+                            .arg(palette().cacheKey()).arg(int(layoutDirection())).arg(m_toggled).arg(isEnabled());
+    QPixmap picture;
+    if (!QPixmapCache::find(key, &picture)) {
+        picture = QPixmap(size() * devicePixelRatioF());
+        picture.setDevicePixelRatio(devicePixelRatioF());
+        picture.fill(Qt::transparent);
+        QPainter picturePainter(&picture);
+        paint(picturePainter);
+        QPixmapCache::insert(key, picture);
+    }
+    painter.drawPixmap(0, 0, picture);
+}
+
+void VyToggleSwitch::paint(QPainter &painter) const
+{
     painter.setRenderHint(QPainter::Antialiasing);
     const QPalette colors = palette();
     const QColor &ground = colors.color(QPalette::Window);

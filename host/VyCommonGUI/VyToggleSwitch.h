@@ -33,6 +33,7 @@ protected:
 
 private:
     friend class ToggleSwitchAccessible;
+    void paint(QPainter &painter) const;
     void changeByUser(bool on);
     void cancelPress();
     void fitToFont();

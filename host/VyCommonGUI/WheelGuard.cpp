@@ -5,25 +5,30 @@
 
 namespace VyViewer {
 
-WheelGuard::WheelGuard(QWidget *guarded, Pass pass)
-    : QObject(guarded)
-    , m_guarded(guarded)
-    , m_pass(pass)
+void WheelGuard::guard(QWidget *widget, Pass pass)
 {
+    static WheelGuard whenFocused(Pass::WhenFocused); // one for all widgets
+    static WheelGuard never(Pass::Never);
     // The default of most editors includes wheel focus: turning the wheel would arm the editor itself.
-    guarded->setFocusPolicy(Qt::StrongFocus);
-    guarded->installEventFilter(this);
+    widget->setFocusPolicy(Qt::StrongFocus);
+    widget->installEventFilter(pass == Pass::Never ? &never : &whenFocused);
 }
-
-WheelGuard::~WheelGuard() = default;
 
 bool WheelGuard::eventFilter(QObject *watched, QEvent *event)
 {
-    if (event->type() != QEvent::Wheel || (m_pass == Pass::WhenFocused && m_guarded->hasFocus())) {
+    const bool passes = m_pass == Pass::WhenFocused && static_cast<QWidget *>(watched)->hasFocus();
+    if (event->type() != QEvent::Wheel || passes) {
         return QObject::eventFilter(watched, event);
     }
     event->ignore(); // handled here, and yet offered to the parent
     return true;
 }
+
+WheelGuard::WheelGuard(Pass pass)
+    : m_pass(pass)
+{
+}
+
+WheelGuard::~WheelGuard() = default;
 
 } // namespace VyViewer

@@ -13,14 +13,15 @@ class WheelGuard : public QObject
 public:
     enum class Pass { WhenFocused, Never };
 
-    /// Guards the widget, and is its child.
-    WheelGuard(QWidget *guarded, Pass pass);
-    ~WheelGuard() override;
+    /// Guards the widget for as long as it lives.
+    static void guard(QWidget *widget, Pass pass);
 
     bool eventFilter(QObject *watched, QEvent *event) override;
 
 private:
-    QWidget *const m_guarded; // the parent
+    explicit WheelGuard(Pass pass);
+    ~WheelGuard() override;
+
     const Pass m_pass;
 };
 
