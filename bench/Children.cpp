@@ -26,12 +26,11 @@ QByteArray output(const QString &program, const QStringList &arguments)
 Figures Children::run(const QStringList &arguments)
 {
     Figures figures;
-    for (const QByteArray &line : output(QCoreApplication::applicationFilePath(), arguments).split('\n')) {
-        const QList<QByteArray> parts = line.split('\t');
-        if (parts.size() == 2) {
-            for (const QByteArray &number : parts.at(1).split(' ')) {
-                figures[QString::fromUtf8(parts.at(0))].append(number.toDouble());
-            }
+    const auto lines = output(QCoreApplication::applicationFilePath(), arguments).split('\n');
+    for (const QByteArray &line : lines) {
+        const auto numbers = line.mid(line.indexOf('\t') + 1).split(' ');
+        for (const QByteArray &number : numbers) {
+            figures[QString::fromUtf8(line.left(line.indexOf('\t')))].append(number.toDouble());
         }
     }
     return figures;

@@ -139,7 +139,8 @@ void measureMemory(const Subject &subject)
     Meter::print(QStringLiteral("heap"), {(heapBytes() - heap) / kForms});
     Meter::print(QStringLiteral("resident"), {(residentBytes() - resident) / kForms});
     quint64 lists = 0;
-    for (const QComboBox *combo : forms.back()->findChildren<QComboBox *>()) {
+    const auto combos = forms.back()->findChildren<QComboBox *>();
+    for (const QComboBox *combo : combos) {
         lists += quint64(combo->findChildren<QAbstractItemView *>().size());
     }
     Meter::print(QStringLiteral("lists"), {lists});
