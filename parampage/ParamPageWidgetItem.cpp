@@ -435,6 +435,9 @@ void ParamPageWidgetItem::onEnumParamChanged()
 
 void ParamPageWidgetItem::onButtonClicked()
 {
+    if (isHidden()) {
+        return; // by what another editor wrote when the press took its focus away
+    }
     DeviceAccess::service()->executeCMD(m_device, m_nodeName);
     Q_EMIT valueChanged();
 }

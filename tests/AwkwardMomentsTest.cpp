@@ -134,6 +134,28 @@ private Q_SLOTS:
         m_window.reset();
     }
 
+    void aClickOnWhatTheEditBeforeItHides()
+    {
+        for (const char *node : {"InputIOTriggerFollow", "InputSoftwareTrigger", "InputTriggerSource"}) {
+            cleanup(); // leaving its editor is the last the window does
+            init();
+            show();
+            m_window->resize(400, 500);
+            QTest::qWait(1);
+            press("InputTriggerDelay"_s, {Qt::Key_Up});
+            const QString target = QString::fromLatin1(node);
+            const QWidget *editor = PanelModel::editorOf(row(m_panel, target));
+            const auto *const toggle = editor->findChild<VyToggleSwitch *>();
+            editor = toggle ? toggle : editor;
+            m_step = change(target, {}, RuvoNodeNotAvailable);
+            QTest::mouseClick(m_window->windowHandle(), Qt::LeftButton, Qt::NoModifier,
+                              editor->mapTo(m_window.get(), editor->rect().center()));
+            QVERIFY2(!editor->isVisible(), node);
+            QCOMPARE(m_device.writes(), QStringList{"set InputTriggerDelay=2.5"_s});
+            QVERIFY2(!QApplication::activePopupWidget(), node);
+        }
+    }
+
     void withinTheEditsOwnWrite_data()
     {
         QTest::addColumn<int>("edit");

@@ -54,6 +54,9 @@ VyComboBox::~VyComboBox() = default;
 
 void VyComboBox::showPopup()
 {
+    if (!isVisible()) {
+        return; // the press that asks for the list has moved the focus, and whoever lost it has hidden the box
+    }
     QWidget *const popup = view()->window();
     QPalette colors = palette();
     colors.resolve(~0u); // every colour: as a window of its own the list would take the application's

@@ -84,7 +84,8 @@ bool VyToggleSwitch::event(QEvent *event)
 
 void VyToggleSwitch::mousePressEvent(QMouseEvent *event)
 {
-    if (event->button() != Qt::LeftButton) {
+    // A press comes also when the focus, which it has moved before, brought about that the switch is gone.
+    if (event->button() != Qt::LeftButton || !isVisible()) {
         QWidget::mousePressEvent(event);
         return;
     }
