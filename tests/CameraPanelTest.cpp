@@ -166,26 +166,6 @@ private Q_SLOTS:
         set("TriggerStopConfig2Condtion", "FrameCount");
         QCOMPARE(editorOf<VySpinBox>("TriggerStopConfig2FrameCount")->value(), 12);
     }
-
-    void everyEntryIsTranslated()
-    {
-        QFile file(QStringLiteral(TRANSLATIONS "/trigger_de.ts"));
-        QVERIFY(file.open(QIODevice::ReadOnly));
-        const QString texts = QString::fromUtf8(file.readAll());
-        set("InputTriggerMode", "Hold");
-        for (const char *source : {"TcpServer", "TcpClient", "Udp", "RS-232"}) {
-            set("InputTriggerSource", source);
-            set("TriggerStopConfig1Condtion", "Command");
-            for (const auto *combo : m_panel->findChildren<VyComboBox *>()) {
-                for (int i = 0; i < combo->count(); ++i) {
-                    bool isNumber = false;
-                    combo->itemText(i).toDouble(&isNumber);
-                    QVERIFY2(isNumber || texts.contains("<source>%1</source>"_s.arg(combo->itemText(i))),
-                             qPrintable(combo->itemText(i)));
-                }
-            }
-        }
-    }
 };
 
 QTEST_MAIN(CameraPanelTest)

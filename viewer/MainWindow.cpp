@@ -15,8 +15,8 @@
 #include <QDialogButtonBox>
 #include <QDockWidget>
 #include <QLabel>
-#include <QLibraryInfo>
 #include <QLineEdit>
+#include <QLocale>
 #include <QMenuBar>
 #include <QMessageBox>
 #include <QPushButton>
@@ -29,7 +29,6 @@
 #include <QTabWidget>
 #include <QToolBar>
 #include <QToolButton>
-#include <QTranslator>
 #include <QtConcurrentRun>
 
 using VyViewer::IDeviceManager;
@@ -50,8 +49,6 @@ constexpr char kAddressPattern[] = "(22[0-3]|2[01]\\d|1\\d\\d|[1-9]\\d?)(\\.(25[
 
 MainWindow::MainWindow(const QString &language, bool remember)
     : m_remember(remember)
-    , m_translator(new QTranslator(this))
-    , m_qtTranslator(new QTranslator(this))
     , m_centre(new QStackedWidget(this))
     , m_tabs(new QTabWidget(m_centre))
     , m_placeholder(new QWidget(m_centre))
@@ -317,12 +314,10 @@ void MainWindow::buildActions()
 
     m_languageMenu = addMenu("languageMenu", QT_TR_NOOP("&Language"));
     auto *const languages = new QActionGroup(this);
-    for (const char *code : {"en", "de"}) {
-        const QLocale locale(QString::fromLatin1(code));
-        QString name = locale.nativeLanguageName();
-        name[0] = name[0].toUpper();
-        QAction *const action = m_languageMenu->addAction(name);
-        action->setData(locale.name().left(2));
+    const QStringList codes = Language::codes();
+    for (const QString &code : codes) {
+        QAction *const action = m_languageMenu->addAction(Language::name(code));
+        action->setData(code);
         action->setCheckable(true);
         languages->addAction(action);
     }
@@ -355,7 +350,10 @@ void MainWindow::buildActions()
 void MainWindow::retranslate()
 {
     for (const Item &item : qAsConst(m_items)) {
-        item.action->setText(tr(item.text));
+        const QString text = tr(item.text);
+        item.action->setText(text);
+        // A tool button has no key, which some languages put behind the text.
+        item.action->setIconText(QString(text).remove(QRegularExpression(QStringLiteral("\\(&\\w\\)|&|…"))));
     }
     for (const Dock &dock : m_docks) {
         dock.dock->setWindowTitle(tr(dock.title));
@@ -372,25 +370,10 @@ void MainWindow::retranslate()
 
 void MainWindow::setLanguage(const QString &code)
 {
-    // English is what the sources are written in.
-    QCoreApplication::removeTranslator(m_translator);
-    QCoreApplication::removeTranslator(m_qtTranslator);
-    const QLocale locale = code.isEmpty() ? QLocale() : QLocale(code);
-    if (locale.language() != QLocale::English) {
-        if (m_qtTranslator->load(locale, QStringLiteral("qtbase"), QStringLiteral("_"),
-                                 QLibraryInfo::location(QLibraryInfo::TranslationsPath))) {
-            QCoreApplication::installTranslator(m_qtTranslator);
-        }
-        if (m_translator->load(locale, QStringLiteral("trigger"), QStringLiteral("_"),
-                               QStringLiteral(":/translations"))) {
-            QCoreApplication::installTranslator(m_translator);
-        }
-    }
-    const QString shown = m_translator->isEmpty() || locale.language() == QLocale::English
-                              ? QStringLiteral("en") : locale.name().left(2);
+    m_language.speak(code.isEmpty() ? QLocale() : QLocale(code));
     const QList<QAction *> actions = m_languageMenu->actions();
     for (QAction *action : actions) {
-        action->setChecked(action->data().toString() == shown);
+        action->setChecked(action->data().toString() == m_language.code());
     }
 }
 

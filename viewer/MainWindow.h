@@ -1,6 +1,7 @@
 #pragma once
 
 #include "DevicePage.h"
+#include "Language.h"
 
 #include <QFutureWatcher>
 #include <QMainWindow>
@@ -18,7 +19,6 @@ class QMenu;
 class QPushButton;
 class QStackedWidget;
 class QTabWidget;
-class QTranslator;
 class TrafficView;
 
 /// A host in small: the cameras, each open one with its panel in a tab of its own, and what goes on with the
@@ -89,8 +89,7 @@ private:
     QFutureWatcher<QVector<DeviceList::Camera>> m_search;
     QTimer m_nodeTimer;                // many writes in one go, one refresh
     QPointer<const DevicePage> m_followed;
-    QTranslator *m_translator;         // these: children
-    QTranslator *m_qtTranslator;
+    Language m_language;
     QStackedWidget *m_centre;
     QTabWidget *m_tabs;
     QWidget *m_placeholder;

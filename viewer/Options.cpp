@@ -1,5 +1,7 @@
 #include "Options.h"
 
+#include "Language.h"
+
 #include <QCommandLineParser>
 
 #include <cstdio>
@@ -34,7 +36,8 @@ Options Options::parse(const QStringList &arguments)
         QStringLiteral("Set a node before the panel is shown, for example InputTriggerMode=Hold; may be repeated."),
         QStringLiteral("NODE=VALUE"));
     const QCommandLineOption language(QStringLiteral("language"),
-                                      QStringLiteral("Language of the user interface: en or de; otherwise the system's."),
+                                      QStringLiteral("Language of the user interface: %1; otherwise the system's.")
+                                          .arg(Language::codes().join(QLatin1String(", "))),
                                       QStringLiteral("CODE"));
     const QCommandLineOption screenshot(
         QStringLiteral("screenshot"),
@@ -90,8 +93,8 @@ Options Options::parse(const QStringList &arguments)
     if (parser.isSet(screenshot) && !options.screenshot.endsWith(QLatin1String(".png"), Qt::CaseInsensitive)) {
         fail(QStringLiteral("--screenshot needs a file name that ends in .png, not '%1'.").arg(options.screenshot));
     }
-    if (parser.isSet(language) && options.language != QLatin1String("en") && options.language != QLatin1String("de")) {
-        fail(QStringLiteral("--language knows en and de, not '%1'.").arg(options.language));
+    if (parser.isSet(language) && !Language::codes().contains(options.language)) {
+        fail(QStringLiteral("--language knows %1, not '%2'.").arg(Language::codes().join(QLatin1String(", ")), options.language));
     }
     const QStringList settings = parser.values(set);
     for (const QString &setting : settings) {

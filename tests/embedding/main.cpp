@@ -9,6 +9,7 @@
 #include <VyViewerCore/IDeviceManager.h>
 
 #include <QApplication>
+#include <QTranslator>
 
 #include <cstdio>
 
@@ -44,5 +45,10 @@ int main(int argc, char *argv[])
     Singleton<CoreEventBus>::getInstance()->post(QStringLiteral("UserSetLoad"), payload);
     ok &= check(!device.calls.isEmpty(), "the panel hears our bus");
     ok &= check(VyTriggerConfigWdg::tr("x") == QLatin1String("x"), "tr");
+
+    QTranslator translator;
+    ok &= check(translator.load(QLocale(QStringLiteral("de")), QStringLiteral("trigger"), QStringLiteral("_"),
+                                QStringLiteral(":/VyTriggerConfigWdg")),
+                "translations come with the library");
     return ok ? 0 : 1;
 }
