@@ -7,7 +7,7 @@
 namespace {
 // Kept free at the right, so that the text does not touch the editor beside it.
 constexpr int kRightMargin = 5;
-constexpr int kMostKnown = 1000; // texts
+constexpr int kMostKnown = 500; // texts, of each width
 }
 
 CLabel::CLabel(QWidget *parent)
