@@ -151,6 +151,14 @@ void ParamPageWidgetItem::retranslate()
     }
 }
 
+void ParamPageWidgetItem::setSection(const QString &title)
+{
+    setAccessibleDescription(title);
+    if (m_editor) {
+        focusEditor()->setAccessibleDescription(title);
+    }
+}
+
 void ParamPageWidgetItem::setValidator(QValidator *validator)
 {
     auto *const edit = qobject_cast<VyLineEdit *>(m_editor);
@@ -198,6 +206,7 @@ void ParamPageWidgetItem::showEvent(QShowEvent *event)
         m_editor = createEditor();
         m_editor->setFixedHeight(kEditorHeight);
         focusEditor()->setAccessibleName(m_label->toolTip());
+        focusEditor()->setAccessibleDescription(accessibleDescription());
         // Built late, it would be the last stop of the whole window.
         KeyboardFocus::placeBehind(this, focusEditor());
 

@@ -30,6 +30,8 @@ public:
     void refresh();
     /// Translates what the row shows again. Reads and writes nothing.
     void retranslate();
+    /// What the row stands below, translated. Tells editors apart, for assistive technology, whose labels are the same.
+    void setSection(const QString &title);
     /// Restricts what can be typed into the editor of a string node; ignored for any other node and before the
     /// row was first shown. The validator is not owned.
     void setValidator(QValidator *validator);

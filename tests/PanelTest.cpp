@@ -629,6 +629,13 @@ private Q_SLOTS:
         m_device.node("InputTriggerSource").value = "Udp"_s;
         show("Hold");
         QStringList expected = shownTitles(m_panel.get());
+        const auto section = [this](const char *format) {
+            auto *const box = editor<VyComboBox>(m_panel.get(), format);
+            return QAccessible::queryAccessibleInterface(box)->text(QAccessible::Description);
+        };
+        QCOMPARE(section("TriggerUdpCMDFormat"), "UDP"_s);
+        QCOMPARE(section("TriggerTcpServerCMDFormat"), "TCP Server"_s);
+        QCOMPARE(section("TriggerStopConfig1UdpCMDFormat"), "Config 1"_s);
         TildeTranslator translator;
         QVERIFY(QCoreApplication::installTranslator(&translator));
         QCoreApplication::processEvents();
@@ -636,6 +643,7 @@ private Q_SLOTS:
             title.prepend(u'~');
         }
         QCOMPARE(shownTitles(m_panel.get()), expected);
+        QCOMPARE(section("TriggerUdpCMDFormat"), "~UDP"_s);
         QCOMPARE(find<VyTriggerConfigWidgetImpl>()->windowTitle(), "~Form"_s);
         QStringList names;
         for (auto *button : m_panel->findChildren<QAbstractButton *>()) {

@@ -79,6 +79,7 @@ TriggerConfigWdgImpl::TriggerConfigWdgImpl(Device *device, QWidget *parent)
     // Before the rows, whose handlers post under these names.
     subscribe();
     buildRows();
+    translateTitles();
 }
 
 TriggerConfigWdgImpl::~TriggerConfigWdgImpl() = default;
@@ -138,9 +139,7 @@ void TriggerConfigWdgImpl::hideEvent(QHideEvent *event)
 void TriggerConfigWdgImpl::changeEvent(QEvent *event)
 {
     if (event->type() == QEvent::LanguageChange) {
-        for (const Title &title : qAsConst(m_titles)) {
-            title.widget->setText(tr(title.text));
-        }
+        translateTitles();
         retranslate();
     }
     QWidget::changeEvent(event);
@@ -209,6 +208,9 @@ void TriggerConfigWdgImpl::buildRows()
                                                   QString::fromLatin1(entry.node), this);
         // First, so that all rows are refreshed when the handlers below run.
         addItem(row);
+        if (!m_titles.isEmpty()) {
+            m_titles.last().rows.append(row);
+        }
         const Source source = entry.source;
         switch (entry.role) {
         case Role::TriggerMode:
@@ -236,12 +238,22 @@ void TriggerConfigWdgImpl::buildRows()
 void TriggerConfigWdgImpl::addTitle(const char *source, const char *text)
 {
     auto *const title = new VyMultiCheckTitleWidget(this);
-    title->setText(tr(text));
     title->setCheckBoxVisible(false);
     title->setDeleteButtonVisible(false);
     addItem(title);
     title->hide();
-    m_titles.append({source, text, title});
+    m_titles.append({source, text, title, {}});
+}
+
+void TriggerConfigWdgImpl::translateTitles()
+{
+    for (const Title &title : qAsConst(m_titles)) {
+        const QString text = tr(title.text);
+        title.widget->setText(text);
+        for (ParamPageWidgetItem *row : title.rows) {
+            row->setSection(text);
+        }
+    }
 }
 
 void TriggerConfigWdgImpl::updateCMDFormat(CommandSource source)

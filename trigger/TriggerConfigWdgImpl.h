@@ -7,6 +7,8 @@
 #include <QVariantMap>
 #include <QVector>
 
+class ParamPageWidgetItem;
+
 namespace VyViewer {
 class VyMultiCheckTitleWidget;
 }
@@ -56,10 +58,12 @@ private:
         const char *source; // the trigger source that shows the title
         const char *text;   // untranslated
         VyViewer::VyMultiCheckTitleWidget *widget; // child
+        QVector<ParamPageWidgetItem *> rows;       // children, below it
     };
 
     void buildRows();
     void addTitle(const char *source, const char *text);
+    void translateTitles();
     void subscribe();
     void updateCMDFormat(CommandSource source);
     void refreshCommands(CommandSource source, const QVariantMap &payload);

@@ -65,6 +65,7 @@ TriggerStopConfigWdg::TriggerStopConfigWdg(int number, Device *device, QWidget *
     subscribe();
     buildTitle();
     buildRows();
+    showTitle();
 }
 
 TriggerStopConfigWdg::~TriggerStopConfigWdg() = default;
@@ -192,7 +193,6 @@ void TriggerStopConfigWdg::subscribe()
 void TriggerStopConfigWdg::buildTitle()
 {
     m_title = new VyMultiCheckTitleWidget(this);
-    showTitle();
     m_title->setCheckBoxVisible(false);
     m_title->setDeleteButtonVisible(m_number != 1); // the first configuration is always on
     // Unique like every connection to the kit's title; a no-op for a function object, which is made only once.
@@ -232,7 +232,12 @@ void TriggerStopConfigWdg::buildRows()
 
 void TriggerStopConfigWdg::showTitle()
 {
-    m_title->setText(tr("Config ") + QString::number(m_number));
+    const QString title = tr("Config ") + QString::number(m_number);
+    m_title->setText(title);
+    const auto rows = findChildren<ParamPageWidgetItem *>();
+    for (ParamPageWidgetItem *row : rows) {
+        row->setSection(title);
+    }
 }
 
 QString TriggerStopConfigWdg::nodeName(const char *nodeTemplate) const
