@@ -28,9 +28,14 @@ Figures Children::run(const QStringList &arguments)
     Figures figures;
     const auto lines = output(QCoreApplication::applicationFilePath(), arguments).split('\n');
     for (const QByteArray &line : lines) {
-        const auto numbers = line.mid(line.indexOf('\t') + 1).split(' ');
+        const QList<QByteArray> parts = line.split('\t');
+        if (parts.size() != 2) {
+            continue;
+        }
+        QVector<double> &values = figures[QString::fromUtf8(parts.at(0))];
+        const auto numbers = parts.at(1).split(' ');
         for (const QByteArray &number : numbers) {
-            figures[QString::fromUtf8(line.left(line.indexOf('\t')))].append(number.toDouble());
+            values.append(number.toDouble());
         }
     }
     return figures;

@@ -3,29 +3,19 @@
 #include "Meter.h"
 #include "Subject.h"
 
+#include "tests/TildeTranslator.h"
+
 #include <QAbstractItemView>
 #include <QAbstractSpinBox>
 #include <QApplication>
 #include <QComboBox>
 #include <QFile>
 #include <QKeyEvent>
-#include <QTranslator>
 
 #include <malloc.h>
 #include <unistd.h>
 
 namespace {
-
-/// As any other, but for a mark before every text.
-class MarkingTranslator : public QTranslator
-{
-public:
-    bool isEmpty() const override { return false; }
-    QString translate(const char *, const char *source, const char *, int) const override
-    {
-        return source[0] ? QLatin1Char('~') + QString::fromUtf8(source) : QString();
-    }
-};
 
 /// Until everything that was posted is done, and painted.
 void settle()
@@ -106,7 +96,7 @@ void live(const Subject &subject, Meter &meter, const QString &prefix)
         form->hide();
         form->show();
     });
-    MarkingTranslator translator;
+    TildeTranslator translator;
     phase("language", [&] { QCoreApplication::installTranslator(&translator); });
     QCoreApplication::removeTranslator(&translator);
     settle();

@@ -4,7 +4,7 @@ namespace {
 
 constexpr int kStopConfigurations = 5;
 
-struct NodeSpec
+struct NodeRow
 {
     const char *name; // of a stop configuration: %1 stands for its number
     const char *label;
@@ -13,7 +13,7 @@ struct NodeSpec
     const char *entries = "";
 };
 
-constexpr NodeSpec kTriggerNodes[] = {
+constexpr NodeRow kTriggerNodes[] = {
     {"InputTriggerMode", "Trigger Mode", RuvoNodeEnumeration, "", "Hold None Once"},
     {"InputTriggerSource", "Trigger Source", RuvoNodeEnumeration, "", "TcpServer TcpClient Udp RS-232 AutoTrigger SensingTrigger"},
     {"InputSoftwareTrigger", "Software Trigger", RuvoNodeCommand},
@@ -51,7 +51,7 @@ constexpr NodeSpec kTriggerNodes[] = {
     {"TriggerSerialPortStartCMD", "Start Trigger Command", RuvoNodeString, "RS-232"},
 };
 
-constexpr NodeSpec kStopNodes[] = {
+constexpr NodeRow kStopNodes[] = {
     {"TriggerStopConfig%1Condtion", "Stop Condition", RuvoNodeEnumeration, "", "FrameCount Duration DecodeCount Command"},
     {"TriggerStopConfig%1FrameCount", "Triggered Frame Count", RuvoNodeInteger},
     {"TriggerStopConfig%1Duration", "Trigger Duration(ms)", RuvoNodeInteger},
@@ -80,24 +80,24 @@ constexpr NodeSpec kStopNodes[] = {
     {"TriggerStopConfig%1SerialPortStopCMD", "Stop Trigger Command", RuvoNodeString, "RS-232"},
 };
 
-Node made(const NodeSpec &spec, const QString &name)
+Node made(const NodeRow &entry, const QString &name)
 {
     Node node;
     node.name = name;
-    node.label = QString::fromLatin1(spec.label);
-    node.type = spec.type;
-    node.source = QString::fromLatin1(spec.source);
-    node.entries = QString::fromLatin1(spec.entries).split(QLatin1Char(' '));
+    node.label = QString::fromLatin1(entry.label);
+    node.type = entry.type;
+    node.source = QString::fromLatin1(entry.source);
+    node.entries = QString::fromLatin1(entry.entries).split(QLatin1Char(' '));
     node.integer = 3000;
     node.real = 1.5F;
-    node.text = spec.type == RuvoNodeEnumeration ? node.entries.constFirst() : QStringLiteral("start");
+    node.text = entry.type == RuvoNodeEnumeration ? node.entries.constFirst() : QStringLiteral("start");
     return node;
 }
 
 void append(Nodes::Page &page)
 {
-    for (const NodeSpec &spec : kTriggerNodes) {
-        page.push_back(made(spec, QString::fromLatin1(spec.name)));
+    for (const NodeRow &entry : kTriggerNodes) {
+        page.push_back(made(entry, QString::fromLatin1(entry.name)));
     }
 }
 
@@ -121,8 +121,8 @@ Nodes Nodes::complete()
     nodes.pages.resize(1 + kStopConfigurations);
     append(nodes.pages.front());
     for (int number = 1; number <= kStopConfigurations; ++number) {
-        for (const NodeSpec &spec : kStopNodes) {
-            nodes.pages[size_t(number)].push_back(made(spec, QString::fromLatin1(spec.name).arg(number)));
+        for (const NodeRow &entry : kStopNodes) {
+            nodes.pages[size_t(number)].push_back(made(entry, QString::fromLatin1(entry.name).arg(number)));
         }
     }
     return nodes;
