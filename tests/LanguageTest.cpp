@@ -15,7 +15,12 @@ class LanguageTest : public QObject
 {
     Q_OBJECT
 
-    static QComboBox *modeOf(const QWidget *in) { return in->findChild<QWidget *>("InputTriggerMode"_s)->findChild<QComboBox *>(); }
+    /// Null until the panel is bound and shown.
+    static QComboBox *modeOf(const QWidget *in)
+    {
+        const QWidget *const row = in->findChild<QWidget *>("InputTriggerMode"_s);
+        return row ? row->findChild<QComboBox *>() : nullptr;
+    }
 
 private Q_SLOTS:
     void panel_data()
@@ -76,7 +81,7 @@ private Q_SLOTS:
         MainWindow window("en"_s, false);
         window.show();
         window.openDevice({}, {});
-        QTRY_VERIFY(window.findChild<VyTriggerConfigWdg *>());
+        QTRY_VERIFY(modeOf(&window));
         modeOf(&window)->setCurrentText("Hold"_s);
         const QMenu *const menu = window.findChild<QAction *>("languageMenu"_s)->menu();
         QSet<QString> titles;
