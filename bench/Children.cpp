@@ -46,9 +46,9 @@ Figures Children::instructions(const QStringList &arguments)
     const QTemporaryDir folder;
     const QString path = folder.filePath(QStringLiteral("callgrind"));
     output(QStringLiteral("valgrind"),
-           QStringList{QStringLiteral("--quiet"), QStringLiteral("--tool=callgrind"), QStringLiteral("--combine-dumps=yes"),
-                       QStringLiteral("--collect-atstart=no"), QStringLiteral("--callgrind-out-file=") + path,
-                       QCoreApplication::applicationFilePath()}
+           QStringList{QStringLiteral("--quiet"), QStringLiteral("--tool=callgrind"),
+                       QStringLiteral("--combine-dumps=yes"), QStringLiteral("--collect-atstart=no"),
+                       QStringLiteral("--callgrind-out-file=") + path, QCoreApplication::applicationFilePath()}
                + arguments);
     QFile file(path);
     if (!file.open(QIODevice::ReadOnly)) {

@@ -33,7 +33,7 @@ private:
     void addTitle(const QString &text, bool shown);
 
     const Nodes::Page &m_nodes;
-    QVBoxLayout *const m_layout;  // child
-    QVector<FloorRow *> m_rows;   // children
-    QVector<QWidget *> m_titles;  // children
+    QVBoxLayout *const m_layout; // child
+    QVector<FloorRow *> m_rows;  // children
+    QVector<QWidget *> m_titles; // children
 };

@@ -29,7 +29,7 @@ private:
     QWidget *createEditor();
     void setValue(const Node &node);
 
-    const Node m_node; // whose name, label, type and entries stay
+    const Node m_node;           // whose name, label, type and entries stay
     FloorLabel *const m_label;   // child
     QWidget *m_editor = nullptr; // child
 };

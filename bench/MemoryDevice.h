@@ -12,7 +12,7 @@ class MemoryDevice final : public Device
 public:
     explicit MemoryDevice(const Nodes &nodes);
 
-    Nodes nodes; // not to be given other nodes, only other values
+    Nodes nodes;                // not to be given other nodes, only other values
     bool followsSource = false; // whether choosing a trigger source withdraws what belongs to the others
     quint64 calls = 0;
 

@@ -16,7 +16,9 @@ namespace {
 class Clock : public Meter
 {
 public:
-    explicit Clock(std::function<DeviceUse()> device) : m_device(std::move(device)) {}
+    explicit Clock(std::function<DeviceUse()> device)
+        : m_device(std::move(device))
+    {}
     void begin() override
     {
         m_before = m_device();

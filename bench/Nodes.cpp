@@ -15,7 +15,8 @@ struct NodeRow
 
 constexpr NodeRow kTriggerNodes[] = {
     {"InputTriggerMode", "Trigger Mode", RuvoNodeEnumeration, "", "Hold None Once"},
-    {"InputTriggerSource", "Trigger Source", RuvoNodeEnumeration, "", "TcpServer TcpClient Udp RS-232 AutoTrigger SensingTrigger"},
+    {"InputTriggerSource", "Trigger Source", RuvoNodeEnumeration, "",
+     "TcpServer TcpClient Udp RS-232 AutoTrigger SensingTrigger"},
     {"InputSoftwareTrigger", "Software Trigger", RuvoNodeCommand},
     {"InputTriggerDelay", "Trigger Delay(ms)", RuvoNodeFloat},
     {"InputIOTriggerFollow", "Follow IO level signal", RuvoNodeBoolean},
@@ -52,7 +53,8 @@ constexpr NodeRow kTriggerNodes[] = {
 };
 
 constexpr NodeRow kStopNodes[] = {
-    {"TriggerStopConfig%1Condtion", "Stop Condition", RuvoNodeEnumeration, "", "FrameCount Duration DecodeCount Command"},
+    {"TriggerStopConfig%1Condtion", "Stop Condition", RuvoNodeEnumeration, "",
+     "FrameCount Duration DecodeCount Command"},
     {"TriggerStopConfig%1FrameCount", "Triggered Frame Count", RuvoNodeInteger},
     {"TriggerStopConfig%1Duration", "Trigger Duration(ms)", RuvoNodeInteger},
     {"TriggerStopConfig%1DecodeCount", "Decoding Count", RuvoNodeInteger},
@@ -70,7 +72,8 @@ constexpr NodeRow kStopNodes[] = {
     {"TriggerStopConfig%1UdpCMDFuzzyMatch", "Fuzzy Command Matching", RuvoNodeBoolean, "Udp"},
     {"TriggerStopConfig%1UdpCMDFormat", "Command Format", RuvoNodeEnumeration, "Udp", "String Hex"},
     {"TriggerStopConfig%1UdpStopCMD", "Stop Trigger Command", RuvoNodeString, "Udp"},
-    {"TriggerStopConfig%1SerialPortBaudrate", "Baud Rate", RuvoNodeEnumeration, "RS-232", "9600 19200 38400 57600 115200"},
+    {"TriggerStopConfig%1SerialPortBaudrate", "Baud Rate", RuvoNodeEnumeration, "RS-232",
+     "9600 19200 38400 57600 115200"},
     {"TriggerStopConfig%1SerialPortFlowcontrol", "Flow Control", RuvoNodeEnumeration, "RS-232", "None RtsCts XonXoff"},
     {"TriggerStopConfig%1SerialPortStopbit", "Stop Bit", RuvoNodeEnumeration, "RS-232", "1 1.5 2"},
     {"TriggerStopConfig%1SerialPortParitybit", "Parity Bit", RuvoNodeEnumeration, "RS-232", "None Odd Even"},

@@ -113,14 +113,16 @@ struct Costs
 void printLine(const char *title, const Line &line, const Costs &floor, const Costs &panel, int life,
                const QVector<int> &lives)
 {
-    const double counts[] = {instructions(floor.instructions, line, life), instructions(panel.instructions, line, life)};
+    const double counts[] = {instructions(floor.instructions, line, life),
+                             instructions(panel.instructions, line, life)};
     const double times[] = {milliseconds(floor.times, line, lives), milliseconds(panel.times, line, lives)};
     std::printf("%-36s %9.2f %9.2f %6.2f ", title, counts[0], counts[1], counts[1] / counts[0]);
     std::printf(line.goal > 0 && life > 0 ? "%6.2f" : "      ", line.goal);
     std::printf(" %8.2f %8.2f %6.2f %7.0f", times[0], times[1], times[1] / times[0],
                 values(panel.events, line, {life}).constFirst());
     for (int column = 2; column < 6; ++column) { // after the device calls and the round trips
-        const QString counted = QStringLiteral("%1/%2").arg(values(panel.events, line, {life}, column).constFirst())
+        const QString counted = QStringLiteral("%1/%2")
+                                    .arg(values(panel.events, line, {life}, column).constFirst())
                                     .arg(values(floor.events, line, {life}, column).constFirst());
         std::printf(" %9s", qPrintable(counted));
     }
@@ -140,28 +142,34 @@ void printPanel()
     for (int round = 0; round < kRounds; ++round) {
         for (Costs *costs : {&floor, &panel}) {
             const char *const subject = costs == &floor ? "floor" : "panel";
-            costs->times.append(Children::run(words("clock") << words(subject) << words("0") << QString::number(kLives)));
+            costs->times.append(
+                Children::run(words("clock") << words(subject) << words("0") << QString::number(kLives)));
         }
     }
-    std::puts("\"Hold\", five stop configurations, every node can be read and written, device in memory.\n"
-              "Floor: the same widgets in plain Qt, filled from an array. Each figure until nothing is left to be done,\n"
-              "but for construct and where it says: the call. Events: panel/floor.\n");
-    std::printf("%-36s %9s %9s %6s %6s %8s %8s %6s %7s %9s %9s %9s %9s\n", "", "floor", "panel", "ratio", "goal", "floor",
-                "panel", "ratio", "device", "layout", "paint", "polish", "style");
+    std::puts(
+        "\"Hold\", five stop configurations, every node can be read and written, device in memory.\n"
+        "Floor: the same widgets in plain Qt, filled from an array. Each figure until nothing is left to be done,\n"
+        "but for construct and where it says: the call. Events: panel/floor.\n");
+    std::printf("%-36s %9s %9s %6s %6s %8s %8s %6s %7s %9s %9s %9s %9s\n", "", "floor", "panel", "ratio", "goal",
+                "floor", "panel", "ratio", "device", "layout", "paint", "polish", "style");
     std::printf("%-36s %9s %9s %6s %6s %8s %8s %6s %7s %9s\n", "", "million", "instr.", "", "", "ms", "ms", "", "calls",
                 "requests");
     printLine("first in the process: construct, show", lines().at(1), floor, panel, 0, {0});
     for (const Line &line : lines()) {
         printLine(line.title, line, floor, panel, 1, laterLives());
     }
-    const struct { const char *title; const char *name; } sizes[] = {{"heap, kB", "heap"}, {"resident, kB", "resident"}};
+    const struct
+    {
+        const char *title;
+        const char *name;
+    } sizes[] = {{"heap, kB", "heap"}, {"resident, kB", "resident"}};
     for (const auto &size : sizes) {
         const QString name = QString::fromLatin1(size.name);
         const double used[] = {floor.memory[name].value(0) / 1000, panel.memory[name].value(0) / 1000};
         std::printf("%-36s %9.0f %9.0f %6.2f %6.2f\n", size.title, used[0], used[1], used[1] / used[0], 1.0);
     }
-    std::printf("%-36s %9.0f %9.0f\n\n", "lists of combo boxes, none opened", floor.memory[QStringLiteral("lists")].value(0),
-                panel.memory[QStringLiteral("lists")].value(0));
+    std::printf("%-36s %9.0f %9.0f\n\n", "lists of combo boxes, none opened",
+                floor.memory[QStringLiteral("lists")].value(0), panel.memory[QStringLiteral("lists")].value(0));
 }
 
 void printGrowth()
@@ -186,7 +194,8 @@ void printGrowth()
         }
         for (const QVector<Figures> &sizes : {panel, floor}) {
             const int last = sizes.size() - 1;
-            std::printf(" %9.2f", std::log2(instructions(sizes.at(last), line) / instructions(sizes.at(last - 1), line)));
+            std::printf(" %9.2f",
+                        std::log2(instructions(sizes.at(last), line) / instructions(sizes.at(last - 1), line)));
         }
         std::puts("");
     }
@@ -195,8 +204,10 @@ void printGrowth()
 
 void printCameras()
 {
-    std::printf("Simulated cameras, milliseconds: in all, in the device, in the panel; calls and requests on the network.\n\n"
-                "%-36s", "");
+    std::printf(
+        "Simulated cameras, milliseconds: in all, in the device, in the panel; calls and requests on the network.\n\n"
+        "%-36s",
+        "");
     const char *const titles[] = {"in this process", "on a network", "there, nothing kept"};
     QVector<QVector<Figures>> times;
     QVector<Figures> events;
@@ -215,7 +226,8 @@ void printCameras()
             const double all = milliseconds(times.at(place), line, laterLives());
             const double device = milliseconds(times.at(place), line, laterLives(), 1);
             std::printf(" | %7.2f %7.2f %7.2f %4.0f %4.0f", all, device, all - device,
-                        values(events.at(place), line, {1}).constFirst(), values(events.at(place), line, {1}, 1).constFirst());
+                        values(events.at(place), line, {1}).constFirst(),
+                        values(events.at(place), line, {1}, 1).constFirst());
         }
         std::puts("");
     }

@@ -34,8 +34,7 @@ Subject floor(int times)
                 *form = built.get();
                 return built;
             },
-            [form](bool all) { all ? (*form)->refreshAll() : (*form)->refresh(0); },
-            [nodes] { nodes->change(); },
+            [form](bool all) { all ? (*form)->refreshAll() : (*form)->refresh(0); }, [nodes] { nodes->change(); },
             [nodes, form](bool follow) {
                 (*form)->followsSource = follow;
                 nodes->offer(follow ? nodes->chosenSource() : QString());
@@ -101,8 +100,7 @@ Subject panel(int times)
     return {[device, pages, times] {
                 return prepared(times == 0 ? buildPanel(device.get()) : buildPage(*device), *pages);
             },
-            refresh,
-            [device] { device->nodes.change(); },
+            refresh, [device] { device->nodes.change(); },
             [device, refresh](bool follow) {
                 device->followsSource = follow;
                 device->nodes.offer(follow ? device->nodes.chosenSource() : QString());

@@ -17,9 +17,9 @@ struct DeviceUse
 struct Subject
 {
     std::function<std::unique_ptr<QWidget>()> build;
-    std::function<void(bool all)> refresh;        // the first page, or every one, of the form built last
-    std::function<void()> changeValues = {};      // of all nodes, behind the form's back; empty: cannot be done
-    std::function<void(bool)> followSource = {};  // whether a source withdraws what belongs to the others; empty: always
+    std::function<void(bool all)> refresh;       // the first page, or every one, of the form built last
+    std::function<void()> changeValues = {};     // of all nodes, behind the form's back; empty: cannot be done
+    std::function<void(bool)> followSource = {}; // whether a source withdraws what belongs to the others; empty: always
     std::function<DeviceUse()> device = [] { return DeviceUse(); };
     const char *number = "TriggerStopConfig1FrameCount"; // a row that edits a number
 

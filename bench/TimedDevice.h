@@ -22,7 +22,9 @@ class TimedDevice final : public Device
 
 public:
     /// The device is not owned.
-    explicit TimedDevice(Device &device) : m_device(device) {}
+    explicit TimedDevice(Device &device)
+        : m_device(device)
+    {}
 
     DeviceUse use;
 

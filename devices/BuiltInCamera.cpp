@@ -8,7 +8,9 @@ namespace {
 class Memory final : public CameraMemory
 {
 public:
-    Memory() : m_bytes(kSize) {}
+    Memory()
+        : m_bytes(kSize)
+    {}
     void read(quint64 address, void *bytes, quint32 size) const override
     {
         std::memcpy(bytes, m_bytes.data() + address, size);

@@ -11,8 +11,7 @@ constexpr quint64 kRunSize = 512; // bytes that one request can fetch
 
 CachingPort::CachingPort(std::unique_ptr<RegisterPort> far)
     : m_far(std::move(far))
-{
-}
+{}
 
 void CachingPort::setCachable(QVector<Extent> registers)
 {
@@ -110,9 +109,12 @@ void CachingPort::dropAfterThisAction()
         return;
     }
     const std::weak_ptr<Cache> cache = m_cache;
-    QMetaObject::invokeMethod(QCoreApplication::instance(), [cache] {
-        if (const auto still = cache.lock()) {
-            still->clear();
-        }
-    }, Qt::QueuedConnection);
+    QMetaObject::invokeMethod(
+        QCoreApplication::instance(),
+        [cache] {
+            if (const auto still = cache.lock()) {
+                still->clear();
+            }
+        },
+        Qt::QueuedConnection);
 }

@@ -16,7 +16,10 @@
 class CachingPort final : public RegisterPort
 {
 public:
-    struct Extent { quint64 begin, end; }; // addresses; `end` is the first one behind
+    struct Extent
+    {
+        quint64 begin, end;
+    }; // addresses; `end` is the first one behind
 
     explicit CachingPort(std::unique_ptr<RegisterPort> far);
 

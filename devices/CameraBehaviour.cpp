@@ -7,7 +7,10 @@ constexpr int kUserSets = 3; // Default, which cannot be saved, and two of the u
 }
 
 CameraBehaviour::CameraBehaviour(CameraMemory &memory, const Registers &registers, Clock clock)
-    : m_memory(memory), m_registers(registers), m_clock(std::move(clock)), m_counted(m_clock())
+    : m_memory(memory)
+    , m_registers(registers)
+    , m_clock(std::move(clock))
+    , m_counted(m_clock())
 {
     QByteArray contents(int(m_registers.contentsSize), '\0');
     m_memory.read(m_registers.contents, contents.data(), m_registers.contentsSize);
@@ -22,9 +25,8 @@ void CameraBehaviour::update()
         m_counted = m_clock();
     });
     carryOut(m_registers.acquisitionStop, [this] { setValue(m_registers.acquisitionStatus, 0); });
-    carryOut(m_registers.softwareTrigger, [this] {
-        setValue(m_registers.triggerCount, value(m_registers.triggerCount) + 1);
-    });
+    carryOut(m_registers.softwareTrigger,
+             [this] { setValue(m_registers.triggerCount, value(m_registers.triggerCount) + 1); });
     carryOut(m_registers.userSetSave, [this] { saveUserSet(); });
     carryOut(m_registers.userSetLoad, [this] { loadUserSet(); });
 }

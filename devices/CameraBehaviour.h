@@ -32,7 +32,7 @@ public:
         quint64 softwareTrigger, triggerCount;
         quint64 userSetSelector, userSetLoad, userSetSave;
         quint64 mode, source, autoInterval, sensingWait;
-        quint64 contents;     // all that a user set holds
+        quint64 contents; // all that a user set holds
         quint32 contentsSize;
         quint32 modeNone, sourceAuto, sourceSensing; // values of the registers `mode` and `source`
     };

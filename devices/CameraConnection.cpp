@@ -16,9 +16,15 @@ using VyViewer::Singleton;
 namespace {
 
 /// With each of these somebody says that a camera's settings may be others now.
-constexpr const char *kEvents[] = {
-    "UserSetLoad", "DeviceParamChanged", "triggerSource", "tcpserverCMDFormatEvent", "tcpclientCMDFormatEvent",
-    "udpCMDFormatEvent", "serialportCMDFormatEvent", "TriggerStopConditionEvent", "TriggerStopDecodeCountEnable"};
+constexpr const char *kEvents[] = {"UserSetLoad",
+                                   "DeviceParamChanged",
+                                   "triggerSource",
+                                   "tcpserverCMDFormatEvent",
+                                   "tcpclientCMDFormatEvent",
+                                   "udpCMDFormatEvent",
+                                   "serialportCMDFormatEvent",
+                                   "TriggerStopConditionEvent",
+                                   "TriggerStopDecodeCountEnable"};
 
 } // namespace
 
@@ -29,7 +35,9 @@ struct CameraConnection::Opened
 };
 
 CameraConnection::CameraConnection(const QString &address, const QString &description, QObject *parent)
-    : QObject(parent), m_address(address), m_description(description)
+    : QObject(parent)
+    , m_address(address)
+    , m_description(description)
 {
     // Before those of any panel, which is bound to the device later: they are served in this order.
     for (const char *name : kEvents) {
@@ -37,8 +45,8 @@ CameraConnection::CameraConnection(const QString &address, const QString &descri
         connect(event, &CoreEvent::triggered, this, &CameraConnection::dropCache);
         Singleton<CoreEventBus>::getInstance()->registerEvent(event);
     }
-    connect(Singleton<IDeviceManager>::getInstance(), &IDeviceManager::deviceGrabStatusUpdate,
-            this, &CameraConnection::dropCache);
+    connect(Singleton<IDeviceManager>::getInstance(), &IDeviceManager::deviceGrabStatusUpdate, this,
+            &CameraConnection::dropCache);
 }
 
 CameraConnection::~CameraConnection() = default;
@@ -80,11 +88,14 @@ void CameraConnection::take(Opened &opened)
     }
     // Queued, wherever it comes from: the call that found the camera dead has to return first.
     m_device->onLost([this, attempt = m_attempt] {
-        QMetaObject::invokeMethod(this, [this, attempt] {
-            if (attempt == m_attempt && m_state == Open) {
-                setState(Lost, m_device->lostReason());
-            }
-        }, Qt::QueuedConnection);
+        QMetaObject::invokeMethod(
+            this,
+            [this, attempt] {
+                if (attempt == m_attempt && m_state == Open) {
+                    setState(Lost, m_device->lostReason());
+                }
+            },
+            Qt::QueuedConnection);
     });
 }
 

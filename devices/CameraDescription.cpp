@@ -32,13 +32,18 @@ bool isName(const QString &text)
 bool isText(const QString &text)
 {
     return text.isValidUtf16() && std::none_of(text.begin(), text.end(), [](QChar c) {
-        return c.unicode() > 0xfffd || (c.unicode() < 0x20 && !QStringLiteral("\t\n\r").contains(c));
-    });
+               return c.unicode() > 0xfffd || (c.unicode() < 0x20 && !QStringLiteral("\t\n\r").contains(c));
+           });
 }
 
 /// What a node cannot work without: Aravis takes it for given.
 constexpr char kRegisters[] = "IntReg MaskedIntReg FloatReg StringReg StructReg Register";
-constexpr struct { const char *kinds; const char *need; const char *orElse; } kNeeds[] = {
+constexpr struct
+{
+    const char *kinds;
+    const char *need;
+    const char *orElse;
+} kNeeds[] = {
     {kRegisters, "pPort", "pPort"},
     {kRegisters, "Length", "pLength"},
     {"Integer Float Boolean Enumeration Command String", "pValue", "Value"},
@@ -55,7 +60,11 @@ constexpr char kKinds[] = "Integer IntReg MaskedIntReg IntConverter IntSwissKnif
 constexpr char kLists[] = "pFeature pSelected pInvalidator";
 
 /// And what Aravis does not expect elsewhere.
-constexpr struct { const char *element; const char *parents; } kPlaces[] = {
+constexpr struct
+{
+    const char *element;
+    const char *parents;
+} kPlaces[] = {
     {"StructEntry", "StructReg"},
     {"SwissKnife", "RegisterDescription Group"}, // in a register it would be an address that is no integer
 };
@@ -77,7 +86,10 @@ class Parser
 {
 public:
     explicit Parser(CameraDescription &description, const QByteArray &xml)
-        : m_description(description), m_reader(xml), m_writer(&description.xml) {}
+        : m_description(description)
+        , m_reader(xml)
+        , m_writer(&description.xml)
+    {}
 
     QString parse()
     {
@@ -119,7 +131,10 @@ private:
         int reads;
         int depth;
     };
-    struct Reference { QString from, element, to; };
+    struct Reference
+    {
+        QString from, element, to;
+    };
 
     void start()
     {
@@ -176,7 +191,8 @@ private:
     {
         const Element closed = m_open.takeLast();
         const QString element = m_reader.name().toString();
-        const QString text = closed.children.isEmpty() ? m_text.trimmed() : QString(); // between elements it means nothing
+        const QString text =
+            closed.children.isEmpty() ? m_text.trimmed() : QString(); // between elements it means nothing
         m_writer.writeCharacters(text);
         m_writer.writeEndElement();
         if (!isText(text)) {
@@ -196,8 +212,7 @@ private:
             }
         }
         for (const auto &needs : kNeeds) {
-            if (isOneOf(needs.kinds, element)
-                && !closed.children.contains(QLatin1String(needs.need))
+            if (isOneOf(needs.kinds, element) && !closed.children.contains(QLatin1String(needs.need))
                 && !closed.children.contains(QLatin1String(needs.orElse))) {
                 m_error = QStringLiteral("%1 has no %2").arg(closed.node, QLatin1String(needs.need));
             }
@@ -222,7 +237,8 @@ private:
             if (!isOneOf(kKinds, m_kinds.value(reference.to)) && !isOneOf(kLists, reference.element)) {
                 return QStringLiteral("%1 refers to %2, of a kind that is not known").arg(reference.from, reference.to);
             }
-            if (reference.element == QLatin1String("pLength") && m_kinds.value(reference.from) != QLatin1String("Register")) {
+            if (reference.element == QLatin1String("pLength")
+                && m_kinds.value(reference.from) != QLatin1String("Register")) {
                 return QStringLiteral("%1 has no length of its own").arg(reference.from); // which may become any
             }
             if (reference.element == QLatin1String("pPort") && m_kinds.value(reference.to) != QLatin1String("Port")) {
@@ -266,7 +282,7 @@ private:
     QString m_error;
     QString m_text;
     QVector<Element> m_open;
-    QHash<QString, QString> m_kinds;          // element names of the nodes
+    QHash<QString, QString> m_kinds; // element names of the nodes
     QHash<QString, Cost> m_costs;
     QHash<QString, QVector<QString>> m_values;
     QVector<Reference> m_references;

@@ -6,7 +6,10 @@
 /// The cameras on the networks of this machine.
 struct CameraFinder
 {
-    struct Camera { QString address, vendor, model, serial; };
+    struct Camera
+    {
+        QString address, vendor, model, serial;
+    };
 
     /// Asks every network at once, by broadcast, and gathers what answers within about a second. Blocks that
     /// long: not for the GUI thread.

@@ -17,7 +17,9 @@ constexpr int kSerialSize = 16;
 class Memory final : public CameraMemory
 {
 public:
-    explicit Memory(ArvFakeCamera *camera) : m_camera(camera) {}
+    explicit Memory(ArvFakeCamera *camera)
+        : m_camera(camera)
+    {}
     void read(quint64 address, void *bytes, quint32 size) const override
     {
         arv_fake_camera_read_memory(m_camera, quint32(address), size, bytes);
@@ -35,7 +37,8 @@ private:
 QString checkAddress(GInetAddress *address)
 {
     Failure failure;
-    const Reference<GSocket> socket(g_socket_new(G_SOCKET_FAMILY_IPV4, G_SOCKET_TYPE_DATAGRAM, G_SOCKET_PROTOCOL_UDP, failure.slot()));
+    const Reference<GSocket> socket(
+        g_socket_new(G_SOCKET_FAMILY_IPV4, G_SOCKET_TYPE_DATAGRAM, G_SOCKET_PROTOCOL_UDP, failure.slot()));
     const Reference<GSocketAddress> local(g_inet_socket_address_new(address, NetworkLink::kControlPort));
     return socket && g_socket_bind(socket.get(), local.get(), FALSE, failure.slot()) ? QString() : failure.text();
 }
@@ -107,8 +110,7 @@ std::unique_ptr<CameraServer> CameraServer::start(const Settings &settings, QStr
 
 CameraServer::CameraServer(std::unique_ptr<Private> implementation)
     : d(std::move(implementation))
-{
-}
+{}
 
 CameraServer::~CameraServer() = default;
 

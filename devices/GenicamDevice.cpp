@@ -58,8 +58,8 @@ RuvoNodeAccessMode accessModeOf(ArvGcNode *node)
         return RuvoNodeNotAvailable;
     }
     const bool locked = arv_gc_feature_node_is_locked(feature, failure.slot()) || failure;
-    const ArvGcAccessMode mode = ARV_IS_GC_COMMAND(node) ? ARV_GC_ACCESS_MODE_WO
-                                                         : arv_gc_feature_node_get_actual_access_mode(feature);
+    const ArvGcAccessMode mode =
+        ARV_IS_GC_COMMAND(node) ? ARV_GC_ACCESS_MODE_WO : arv_gc_feature_node_get_actual_access_mode(feature);
     switch (mode) {
     case ARV_GC_ACCESS_MODE_RO:
         return RuvoNodeReadOnly;
@@ -133,14 +133,16 @@ ArvGcPropertyNode *findProperty(ArvGcNode *node, ArvGcPropertyNodeType type)
 /// ever: no other register has to be read to find it.
 void collectCachable(ArvDomNode *parent, QVector<CachingPort::Extent> &registers)
 {
-    for (ArvDomNode *child = arv_dom_node_get_first_child(parent); child; child = arv_dom_node_get_next_sibling(child)) {
+    for (ArvDomNode *child = arv_dom_node_get_first_child(parent); child;
+         child = arv_dom_node_get_next_sibling(child)) {
         collectCachable(child, registers);
         if (!ARV_IS_GC_REGISTER(child) || !ARV_IS_GC_FEATURE_NODE(child)
             || arv_gc_feature_node_get_actual_access_mode(ARV_GC_FEATURE_NODE(child)) == ARV_GC_ACCESS_MODE_WO) {
             continue;
         }
         ArvGcPropertyNode *const cachable = findProperty(ARV_GC_NODE(child), ARV_GC_PROPERTY_NODE_TYPE_CACHABLE);
-        if (cachable && arv_gc_property_node_get_cachable(cachable, ARV_GC_CACHABLE_UNDEFINED) == ARV_GC_CACHABLE_NO_CACHE) {
+        if (cachable
+            && arv_gc_property_node_get_cachable(cachable, ARV_GC_CACHABLE_UNDEFINED) == ARV_GC_CACHABLE_NO_CACHE) {
             continue;
         }
         Failure failure;
@@ -157,7 +159,10 @@ void collectCachable(ArvDomNode *parent, QVector<CachingPort::Extent> &registers
 struct GenicamDevice::Private
 {
     explicit Private(DevicePointer opened, NetworkLink *network = nullptr, CachingPort *caching = nullptr)
-        : owned(std::move(opened)), device(owned.get()), link(network), cache(caching)
+        : owned(std::move(opened))
+        , device(owned.get())
+        , link(network)
+        , cache(caching)
     {
         // Both are off unless asked for, and what breaks a rule then passes in silence.
         arv_device_set_range_check_policy(device, ARV_RANGE_CHECK_POLICY_ENABLE);
@@ -165,10 +170,7 @@ struct GenicamDevice::Private
     }
     Q_DISABLE_COPY(Private)
 
-    ArvGcNode *node(const QString &name) const
-    {
-        return arv_device_get_feature(device, name.toUtf8().constData());
-    }
+    ArvGcNode *node(const QString &name) const { return arv_device_get_feature(device, name.toUtf8().constData()); }
 
     long fail(Status status, const QString &name, const QString &why)
     {
@@ -192,8 +194,8 @@ struct GenicamDevice::Private
             return fail(DeviceFailure, name, lostReason());
         }
         const bool allowed = mode == RuvoNodeReadWrite || mode == (toWrite ? RuvoNodeWriteOnly : RuvoNodeReadOnly);
-        return allowed ? long(Ok) : fail(NoAccess, name, toWrite ? tr("cannot be written now")
-                                                                 : tr("cannot be read now"));
+        return allowed ? long(Ok)
+                       : fail(NoAccess, name, toWrite ? tr("cannot be written now") : tr("cannot be read now"));
     }
     QString lostReason() const { return link ? link->lostReason() : QString(); }
     bool isLost() const { return !lostReason().isEmpty(); }
@@ -235,8 +237,8 @@ struct GenicamDevice::Private
     /// for some kinds of nodes and with an error for others.
     template <typename T>
     long readLimits(void (*readBounds)(ArvDevice *, const char *, T *, T *, GError **),
-                    T (*readIncrement)(ArvDevice *, const char *, GError **),
-                    const QString &name, T &minimum, T &maximum, T &increment)
+                    T (*readIncrement)(ArvDevice *, const char *, GError **), const QString &name, T &minimum,
+                    T &maximum, T &increment)
     {
         const QByteArray node = name.toUtf8();
         Failure failure;
@@ -256,21 +258,22 @@ struct GenicamDevice::Private
     }
     long readLimits(const QString &name, gint64 &minimum, gint64 &maximum, gint64 &increment)
     {
-        return readLimits<gint64>(arv_device_get_integer_feature_bounds, arv_device_get_integer_feature_increment,
-                                  name, minimum, maximum, increment);
+        return readLimits<gint64>(arv_device_get_integer_feature_bounds, arv_device_get_integer_feature_increment, name,
+                                  minimum, maximum, increment);
     }
     long readLimits(const QString &name, double &minimum, double &maximum, double &increment)
     {
-        return readLimits<double>(arv_device_get_float_feature_bounds, arv_device_get_float_feature_increment,
-                                  name, minimum, maximum, increment);
+        return readLimits<double>(arv_device_get_float_feature_bounds, arv_device_get_float_feature_increment, name,
+                                  minimum, maximum, increment);
     }
 
     long availableEntries(const QString &name, QList<QString> &entries)
     {
         Failure failure;
         guint count = 0;
-        const char **const names = arv_device_dup_available_enumeration_feature_values_as_strings(
-            device, name.toUtf8().constData(), &count, failure.slot());
+        const char **const names =
+            arv_device_dup_available_enumeration_feature_values_as_strings(device, name.toUtf8().constData(), &count,
+                                                                           failure.slot());
         entries.clear();
         for (guint i = 0; names && i < count; ++i) {
             entries.append(QString::fromUtf8(names[i]));
@@ -304,7 +307,7 @@ struct GenicamDevice::Private
 
     const DevicePointer owned;
     ArvDevice *const device;
-    NetworkLink *const link;  // these are the device's; null for one in this process
+    NetworkLink *const link; // these are the device's; null for one in this process
     CachingPort *const cache;
     QString error;
 };
@@ -325,7 +328,8 @@ std::unique_ptr<GenicamDevice> GenicamDevice::openDescription(const QByteArray &
 {
     DevicePointer camera = newBuiltInCamera(description, std::move(clock), error);
     *error = error->simplified();
-    return camera ? std::unique_ptr<GenicamDevice>(new GenicamDevice(std::make_unique<Private>(std::move(camera)))) : nullptr;
+    return camera ? std::unique_ptr<GenicamDevice>(new GenicamDevice(std::make_unique<Private>(std::move(camera))))
+                  : nullptr;
 }
 
 std::unique_ptr<GenicamDevice> GenicamDevice::openNetwork(const QString &address, QString *error)
@@ -360,15 +364,15 @@ std::unique_ptr<GenicamDevice> GenicamDevice::openPort(std::unique_ptr<RegisterP
     return std::unique_ptr<GenicamDevice>(new GenicamDevice(std::make_unique<Private>(std::move(device), link, cache)));
 }
 
-std::unique_ptr<GenicamDevice> GenicamDevice::open(const QString &address, const QString &descriptionFile, QString *error)
+std::unique_ptr<GenicamDevice> GenicamDevice::open(const QString &address, const QString &descriptionFile,
+                                                   QString *error)
 {
     return address.isEmpty() ? openBuiltIn(descriptionFile, error) : openNetwork(address, error);
 }
 
 GenicamDevice::GenicamDevice(std::unique_ptr<Private> implementation)
     : d(std::move(implementation))
-{
-}
+{}
 
 GenicamDevice::~GenicamDevice() = default;
 
@@ -520,7 +524,8 @@ long GenicamDevice::setParamInt(const QString &name, int value)
     }
     // Only the range is checked for us. Unsigned, because the distance from the smallest minimum does not fit otherwise.
     if (increment > 1 && (quint64(value) - quint64(minimum)) % quint64(increment) != 0) {
-        return d->fail(InvalidValue, name, tr("%1 is not a multiple of %2 above the minimum").arg(value).arg(increment));
+        return d->fail(InvalidValue, name,
+                       tr("%1 is not a multiple of %2 above the minimum").arg(value).arg(increment));
     }
     return d->write<gint64>(name, arv_device_set_integer_feature_value, value);
 }

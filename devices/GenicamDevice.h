@@ -22,10 +22,10 @@ class GenicamDevice final : public Device
 public:
     enum Status : long {
         Ok = 0,
-        NoSuchNode,    ///< no node of that name, or it is of another type
-        NoAccess,      ///< the node cannot be read, written or executed at this moment
-        InvalidValue,  ///< out of range, off the increment, not an available entry, too long
-        DeviceFailure  ///< the device did not answer, or not with a value of the node's type
+        NoSuchNode,   ///< no node of that name, or it is of another type
+        NoAccess,     ///< the node cannot be read, written or executed at this moment
+        InvalidValue, ///< out of range, off the increment, not an available entry, too long
+        DeviceFailure ///< the device did not answer, or not with a value of the node's type
     };
 
     /// Milliseconds from any fixed moment; never runs backwards.
@@ -34,8 +34,7 @@ public:
     /// The simulated camera. An empty file name stands for the built-in description; `clock` replaces the
     /// real time by which it triggers itself. Returns null, and the reason in one line, when the description
     /// cannot be used.
-    static std::unique_ptr<GenicamDevice> openBuiltIn(const QString &descriptionFile, QString *error,
-                                                      Clock clock = {});
+    static std::unique_ptr<GenicamDevice> openBuiltIn(const QString &descriptionFile, QString *error, Clock clock = {});
     static std::unique_ptr<GenicamDevice> openDescription(const QByteArray &description, QString *error,
                                                           Clock clock = {});
 

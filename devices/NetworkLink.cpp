@@ -60,13 +60,15 @@ Releases &releases()
 /// Our own address on the network where the camera is: nothing is sent to find out.
 GInetAddress *localAddress(GInetAddress *remote, GError **error)
 {
-    const Reference<GSocket> socket(g_socket_new(G_SOCKET_FAMILY_IPV4, G_SOCKET_TYPE_DATAGRAM, G_SOCKET_PROTOCOL_UDP, error));
+    const Reference<GSocket> socket(
+        g_socket_new(G_SOCKET_FAMILY_IPV4, G_SOCKET_TYPE_DATAGRAM, G_SOCKET_PROTOCOL_UDP, error));
     const Reference<GSocketAddress> target(g_inet_socket_address_new(remote, NetworkLink::kControlPort));
     if (!socket || !g_socket_connect(socket.get(), target.get(), nullptr, error)) {
         return nullptr;
     }
     const Reference<GSocketAddress> local(g_socket_get_local_address(socket.get(), error));
-    return local ? G_INET_ADDRESS(g_object_ref(g_inet_socket_address_get_address(G_INET_SOCKET_ADDRESS(local.get())))) : nullptr;
+    return local ? G_INET_ADDRESS(g_object_ref(g_inet_socket_address_get_address(G_INET_SOCKET_ADDRESS(local.get()))))
+                 : nullptr;
 }
 
 DevicePointer openDevice(const QByteArray &address, QString *error)
@@ -100,7 +102,9 @@ struct NetworkLink::Shared
         QString error;
     };
 
-    explicit Shared(QByteArray of) : address(std::move(of)) {}
+    explicit Shared(QByteArray of)
+        : address(std::move(of))
+    {}
 
     void run();
     bool open(DevicePointer &device);
@@ -113,8 +117,8 @@ struct NetworkLink::Shared
     std::condition_variable changed;
     enum { Opening, Open, Failed, Releasing } state = Opening;
     std::deque<std::shared_ptr<Request>> queue;
-    QString error;  // of opening
-    QString lost;   // why, once it is
+    QString error; // of opening
+    QString lost;  // why, once it is
     std::function<void()> onLost;
     QByteArray description;
     bool isController = false;
@@ -144,9 +148,12 @@ void NetworkLink::Shared::run()
         return;
     }
     // On the heartbeat's thread. Releasing the device ends that thread, and we outlive the device.
-    const gulong handler = g_signal_connect(device.get(), "control-lost", G_CALLBACK(+[](ArvDevice *, gpointer shared) {
-        static_cast<Shared *>(shared)->lose(tr("The camera is gone, was restarted, or obeys another program now."));
-    }), this);
+    const gulong handler =
+        g_signal_connect(device.get(), "control-lost", G_CALLBACK(+[](ArvDevice *, gpointer shared) {
+                             static_cast<Shared *>(shared)->lose(
+                                 tr("The camera is gone, was restarted, or obeys another program now."));
+                         }),
+                         this);
     std::unique_lock<std::mutex> lock(mutex);
     while (state == Open) {
         if (queue.empty()) {
@@ -180,13 +187,15 @@ bool NetworkLink::Shared::serve(ArvDevice *device, Request &request)
 {
     Failure failure;
     const auto size = quint32(request.bytes.size());
-    const bool ok = request.isWrite ? arv_device_write_memory(device, request.address, size, request.bytes.data(), failure.slot())
-                                    : arv_device_read_memory(device, request.address, size, request.bytes.data(), failure.slot());
+    const bool ok = request.isWrite
+        ? arv_device_write_memory(device, request.address, size, request.bytes.data(), failure.slot())
+        : arv_device_read_memory(device, request.address, size, request.bytes.data(), failure.slot());
     if (ok) {
         return true;
     }
     request.error = failure.text();
-    return failure && failure.error->domain == ARV_DEVICE_ERROR && !failure.is(ARV_DEVICE_ERROR, ARV_DEVICE_ERROR_TIMEOUT)
+    return failure && failure.error->domain == ARV_DEVICE_ERROR
+        && !failure.is(ARV_DEVICE_ERROR, ARV_DEVICE_ERROR_TIMEOUT)
         && !failure.is(ARV_DEVICE_ERROR, ARV_DEVICE_ERROR_NOT_CONNECTED); // else it may be the network that says no
 }
 
@@ -226,8 +235,7 @@ std::unique_ptr<NetworkLink> NetworkLink::open(const QString &address, QString *
 
 NetworkLink::NetworkLink(std::shared_ptr<Shared> shared)
     : m_shared(std::move(shared))
-{
-}
+{}
 
 NetworkLink::~NetworkLink()
 {
@@ -285,7 +293,8 @@ bool NetworkLink::write(quint64 address, const void *bytes, quint32 size, QStrin
 
 bool NetworkLink::request(quint64 address, QByteArray &bytes, bool isWrite, QString *error)
 {
-    const auto request = std::make_shared<Shared::Request>(Shared::Request{address, std::move(bytes), isWrite, false, {}});
+    const auto request =
+        std::make_shared<Shared::Request>(Shared::Request{address, std::move(bytes), isWrite, false, {}});
     std::unique_lock<std::mutex> lock(m_shared->mutex);
     if (m_shared->lost.isEmpty()) {
         m_requests += (quint32(request->bytes.size()) + kRequestSize - 1) / kRequestSize;

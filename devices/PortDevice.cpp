@@ -13,8 +13,15 @@ struct Contents
 
 } // namespace
 
-struct VyPortDevice { ArvDevice parent; Contents *contents; };
-struct VyPortDeviceClass { ArvDeviceClass parent; };
+struct VyPortDevice
+{
+    ArvDevice parent;
+    Contents *contents;
+};
+struct VyPortDeviceClass
+{
+    ArvDeviceClass parent;
+};
 
 G_DEFINE_TYPE(VyPortDevice, vy_port_device, arv_device_get_type())
 
@@ -79,9 +86,7 @@ void finalize(GObject *object)
 
 } // namespace
 
-static void vy_port_device_init(VyPortDevice *)
-{
-}
+static void vy_port_device_init(VyPortDevice *) {}
 
 static void vy_port_device_class_init(VyPortDeviceClass *type)
 {

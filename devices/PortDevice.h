@@ -8,7 +8,10 @@
 
 typedef struct _ArvDevice ArvDevice; // NOLINT(bugprone-reserved-identifier): the name is Aravis'
 
-struct ReferenceDeleter { void operator()(void *object) const; };
+struct ReferenceDeleter
+{
+    void operator()(void *object) const;
+};
 /// One reference to an object of GLib's.
 template <typename T>
 using Reference = std::unique_ptr<T, ReferenceDeleter>;

@@ -13,7 +13,9 @@ constexpr char kSerialNode[] = "DeviceSerialNumber";
 class MemoryPort final : public RegisterPort
 {
 public:
-    explicit MemoryPort(std::unique_ptr<CameraMemory> owned) : memory(std::move(owned)) {}
+    explicit MemoryPort(std::unique_ptr<CameraMemory> owned)
+        : memory(std::move(owned))
+    {}
 
     bool read(quint64 address, void *bytes, quint32 size, QString *error) override
     {
@@ -80,7 +82,8 @@ quint64 findRegister(ArvGc *gc, const char *name, quint32 size, QString *missing
 quint32 findEntry(ArvGc *gc, const char *enumeration, const char *name, QString *missing)
 {
     ArvGcNode *node = arv_gc_get_node(gc, enumeration);
-    const GSList *entry = ARV_IS_GC_ENUMERATION(node) ? arv_gc_enumeration_get_entries(ARV_GC_ENUMERATION(node)) : nullptr;
+    const GSList *entry =
+        ARV_IS_GC_ENUMERATION(node) ? arv_gc_enumeration_get_entries(ARV_GC_ENUMERATION(node)) : nullptr;
     for (; entry; entry = entry->next) {
         if (!qstrcmp(arv_gc_feature_node_get_name(ARV_GC_FEATURE_NODE(entry->data)), name)) {
             return quint32(arv_gc_enum_entry_get_value(ARV_GC_ENUM_ENTRY(entry->data), nullptr));
@@ -93,26 +96,31 @@ quint32 findEntry(ArvGc *gc, const char *enumeration, const char *name, QString 
 CameraBehaviour::Registers findRegisters(ArvGc *gc, QString *missing)
 {
     CameraBehaviour::Registers registers = {};
-    const struct { quint64 CameraBehaviour::Registers::*address; const char *name; } table[] = {
-        {&CameraBehaviour::Registers::acquisitionStart,  "AcquisitionStartReg"},
-        {&CameraBehaviour::Registers::acquisitionStop,   "AcquisitionStopReg"},
+    const struct
+    {
+        quint64 CameraBehaviour::Registers::*address;
+        const char *name;
+    } table[] = {
+        {&CameraBehaviour::Registers::acquisitionStart, "AcquisitionStartReg"},
+        {&CameraBehaviour::Registers::acquisitionStop, "AcquisitionStopReg"},
         {&CameraBehaviour::Registers::acquisitionStatus, "AcquisitionStatusReg"},
-        {&CameraBehaviour::Registers::softwareTrigger,   "InputSoftwareTriggerReg"},
-        {&CameraBehaviour::Registers::triggerCount,      "TriggerCountReg"},
-        {&CameraBehaviour::Registers::userSetSelector,   "UserSetSelectorReg"},
-        {&CameraBehaviour::Registers::userSetLoad,       "UserSetLoadReg"},
-        {&CameraBehaviour::Registers::userSetSave,       "UserSetSaveReg"},
-        {&CameraBehaviour::Registers::mode,              "InputTriggerModeReg"},
-        {&CameraBehaviour::Registers::source,            "InputTriggerSourceReg"},
-        {&CameraBehaviour::Registers::autoInterval,      "TriggerAutoIntervalReg"},
-        {&CameraBehaviour::Registers::sensingWait,       "TriggerSensingWaitPeriodReg"},
+        {&CameraBehaviour::Registers::softwareTrigger, "InputSoftwareTriggerReg"},
+        {&CameraBehaviour::Registers::triggerCount, "TriggerCountReg"},
+        {&CameraBehaviour::Registers::userSetSelector, "UserSetSelectorReg"},
+        {&CameraBehaviour::Registers::userSetLoad, "UserSetLoadReg"},
+        {&CameraBehaviour::Registers::userSetSave, "UserSetSaveReg"},
+        {&CameraBehaviour::Registers::mode, "InputTriggerModeReg"},
+        {&CameraBehaviour::Registers::source, "InputTriggerSourceReg"},
+        {&CameraBehaviour::Registers::autoInterval, "TriggerAutoIntervalReg"},
+        {&CameraBehaviour::Registers::sensingWait, "TriggerSensingWaitPeriodReg"},
     };
     for (const auto &row : table) {
         registers.*row.address = findRegister(gc, row.name, sizeof(quint32), missing);
     }
     registers.contents = findRegister(gc, "UserSetContents", 0, missing);
     if (missing->isEmpty()) {
-        registers.contentsSize = quint32(arv_gc_register_get_length(ARV_GC_REGISTER(arv_gc_get_node(gc, "UserSetContents")), nullptr));
+        registers.contentsSize =
+            quint32(arv_gc_register_get_length(ARV_GC_REGISTER(arv_gc_get_node(gc, "UserSetContents")), nullptr));
     }
     registers.modeNone = findEntry(gc, "InputTriggerMode", "None", missing);
     registers.sourceAuto = findEntry(gc, "InputTriggerSource", "AutoTrigger", missing);
@@ -129,7 +137,8 @@ QString writePowerUpValue(ArvGc *gc, const QByteArray &name, const QByteArray &t
     }
     Failure failure;
     arv_gc_feature_node_set_value_from_string(ARV_GC_FEATURE_NODE(node), text.constData(), failure.slot());
-    return failure ? QStringLiteral("the power-up value of %1: %2").arg(QString::fromUtf8(name), failure.text()) : QString();
+    return failure ? QStringLiteral("the power-up value of %1: %2").arg(QString::fromUtf8(name), failure.text())
+                   : QString();
 }
 
 } // namespace

@@ -36,14 +36,16 @@ int main(int argc, char *argv[])
                                      QStringLiteral("IPv4 address of this machine to answer on; 127.0.0.1 otherwise."),
                                      QStringLiteral("ADDRESS"), QStringLiteral("127.0.0.1"));
     const QCommandLineOption serial(QStringLiteral("serial"),
-                                    QStringLiteral("Serial number of the camera, up to 16 bytes."), QStringLiteral("TEXT"));
+                                    QStringLiteral("Serial number of the camera, up to 16 bytes."),
+                                    QStringLiteral("TEXT"));
     const QCommandLineOption description(
         QStringLiteral("description"),
-        QStringLiteral("Simulate the camera that this GenICam description (XML) describes instead of the built-in one."),
+        QStringLiteral(
+            "Simulate the camera that this GenICam description (XML) describes instead of the built-in one."),
         QStringLiteral("FILE"));
     QCommandLineParser parser;
-    parser.setApplicationDescription(QStringLiteral(
-        "A simulated smart camera as a GigE Vision device on a network. It runs until Ctrl-C."));
+    parser.setApplicationDescription(
+        QStringLiteral("A simulated smart camera as a GigE Vision device on a network. It runs until Ctrl-C."));
     parser.addOptions({help, version, address, serial, description});
     if (!parser.parse(QCoreApplication::arguments())) {
         return complain(parser.errorText());
@@ -64,7 +66,8 @@ int main(int argc, char *argv[])
     }
 
     QString error;
-    const auto server = CameraServer::start({parser.value(address), parser.value(serial), parser.value(description)}, &error);
+    const auto server =
+        CameraServer::start({parser.value(address), parser.value(serial), parser.value(description)}, &error);
     if (!server) {
         return complain(error);
     }

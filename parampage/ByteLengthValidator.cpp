@@ -3,8 +3,7 @@
 ByteLengthValidator::ByteLengthValidator(int maximum, QObject *parent)
     : QValidator(parent)
     , m_maximum(maximum)
-{
-}
+{}
 
 ByteLengthValidator::~ByteLengthValidator() = default;
 

@@ -8,7 +8,7 @@ namespace {
 // Kept free at the right, so that the text does not touch the editor beside it.
 constexpr int kRightMargin = 5;
 constexpr int kMostKnown = 500; // texts, of each width
-}
+} // namespace
 
 CLabel::CLabel(QWidget *parent)
     : QLabel(parent)

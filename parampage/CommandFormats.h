@@ -25,7 +25,7 @@ class CommandFormats
 {
 public:
     static constexpr std::array<CommandSource, 4> kSources{CommandSource::TcpServer, CommandSource::TcpClient,
-                                                          CommandSource::Udp, CommandSource::SerialPort};
+                                                           CommandSource::Udp, CommandSource::SerialPort};
     template <typename Page>
     using Handlers = std::array<void (Page::*)(QVariantMap), kSources.size()>;
 

@@ -5,8 +5,7 @@
 HexValidator::HexValidator(int maximum, QObject *parent)
     : QValidator(parent)
     , m_maximum(maximum)
-{
-}
+{}
 
 HexValidator::~HexValidator() = default;
 

@@ -32,7 +32,7 @@ protected:
     void showEvent(QShowEvent *event) override;
 
 private:
-    Device *const m_device; // not owned
+    Device *const m_device;      // not owned
     QVBoxLayout *const m_layout; // child
     QVector<QWidget *> m_items;  // children, in display order
 };

@@ -87,17 +87,17 @@ bool holds(const QComboBox *combo, const QList<QString> &texts)
 
 } // namespace
 
-ParamPageWidgetItem::ParamPageWidgetItem(Device *device, const QString &label, const QString &nodeName,
-                                         QWidget *parent)
+ParamPageWidgetItem::ParamPageWidgetItem(Device *device, const QString &label, const QString &nodeName, QWidget *parent)
     : QWidget(parent)
     , m_device(device)
     , m_nodeName(nodeName)
     , m_labelText(label)
     , m_label(new CLabel(this))
 {
-    setObjectName(m_nodeName); // lets scripts that drive the user interface find the row
+    // Lets scripts that drive the user interface find the row.
+    setObjectName(m_nodeName);
     m_label->setAttribute(Qt::WA_TranslucentBackground); // the row's own ground shows through
-    m_label->setAttribute(Qt::WA_Resized); // the row decides on its size: a show need not measure it
+    m_label->setAttribute(Qt::WA_Resized);               // the row decides on its size: a show need not measure it
     setFixedHeight(kRowHeight);
     m_label->setFullText(translated(m_labelText));
 }

@@ -75,14 +75,14 @@ private:
     Device *const m_device; // not owned
     const QString m_nodeName;
     const QString m_labelText;
-    CLabel *m_label;              // child
-    QWidget *m_editor = nullptr;  // child, built on first show
+    CLabel *m_label;             // child
+    QWidget *m_editor = nullptr; // child, built on first show
     const QColor m_hoverColor{216, 216, 216};
     QColor m_background = Qt::white;
     const QColor m_normalColor = Qt::white;
-    RuvoNodeType m_nodeType = RuvoNodeUnknown; // fixed once the editor is built
+    RuvoNodeType m_nodeType = RuvoNodeUnknown;          // fixed once the editor is built
     RuvoNodeAccessMode m_mode = RuvoNodeNotImplemented; // as answered last
-    QVariant m_valueRead; // the float or text that the device holds ...
-    QString m_textShown;  // ... and what the editor made of it
-    std::array<double, 3> m_range{qQNaN()}; // limits and step of a number, as last given to the editor
+    QVariant m_valueRead;                               // the float or text that the device holds ...
+    QString m_textShown;                                // ... and what the editor made of it
+    std::array<double, 3> m_range{qQNaN()};             // limits and step of a number, as last given to the editor
 };

@@ -55,8 +55,8 @@ private Q_SLOTS:
 private:
     struct Title
     {
-        const char *source; // the trigger source that shows the title
-        const char *text;   // untranslated
+        const char *source;                        // the trigger source that shows the title
+        const char *text;                          // untranslated
         VyViewer::VyMultiCheckTitleWidget *widget; // child
         QVector<ParamPageWidgetItem *> rows;       // children, below it
     };

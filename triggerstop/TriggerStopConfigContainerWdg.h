@@ -29,7 +29,7 @@ protected:
     void showEvent(QShowEvent *event) override;
 
 private:
-    QGridLayout *const m_grid; // child
+    QGridLayout *const m_grid;             // child
     QList<TriggerStopConfigWdg *> m_pages; // children; page 1 first
-    Device *m_device = nullptr; // not owned
+    Device *m_device = nullptr;            // not owned
 };

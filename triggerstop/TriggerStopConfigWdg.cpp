@@ -26,34 +26,46 @@ struct RowSpec
     Source source = Source::TcpServer; // of a format or command row
 };
 
+// clang-format off: one row a line
 constexpr RowSpec kRows[] = {
     {"TriggerStopConfig%1Condtion", QT_TRANSLATE_NOOP("ParamPageWidgetItem", "Stop Condition"), Role::Condition},
     {"TriggerStopConfig%1FrameCount", QT_TRANSLATE_NOOP("ParamPageWidgetItem", "Triggered Frame Count")},
     {"TriggerStopConfig%1Duration", QT_TRANSLATE_NOOP("ParamPageWidgetItem", "Trigger Duration(ms)")},
     {"TriggerStopConfig%1DecodeCount", QT_TRANSLATE_NOOP("ParamPageWidgetItem", "Decoding Count")},
-    {"TriggerStopConfig%1CodeCountEnable", QT_TRANSLATE_NOOP("ParamPageWidgetItem", "Code Counting Enable"), Role::CodeCounting},
+    {"TriggerStopConfig%1CodeCountEnable", QT_TRANSLATE_NOOP("ParamPageWidgetItem", "Code Counting Enable"),
+     Role::CodeCounting},
     {"TriggerStopConfig%1TcpServerPort", QT_TRANSLATE_NOOP("ParamPageWidgetItem", "TCP Port")},
-    {"TriggerStopConfig%1TcpServerCMDFuzzyMatching", QT_TRANSLATE_NOOP("ParamPageWidgetItem", "Fuzzy Command Matching")},
-    {"TriggerStopConfig%1TcpServerCMDFormat", QT_TRANSLATE_NOOP("ParamPageWidgetItem", "Command Format"), Role::Format, Source::TcpServer},
-    {"TriggerStopConfig%1TcpServerStopCMD", QT_TRANSLATE_NOOP("ParamPageWidgetItem", "Stop Trigger Command"), Role::Command, Source::TcpServer},
+    {"TriggerStopConfig%1TcpServerCMDFuzzyMatching",
+     QT_TRANSLATE_NOOP("ParamPageWidgetItem", "Fuzzy Command Matching")},
+    {"TriggerStopConfig%1TcpServerCMDFormat", QT_TRANSLATE_NOOP("ParamPageWidgetItem", "Command Format"), Role::Format,
+     Source::TcpServer},
+    {"TriggerStopConfig%1TcpServerStopCMD", QT_TRANSLATE_NOOP("ParamPageWidgetItem", "Stop Trigger Command"),
+     Role::Command, Source::TcpServer},
     {"TriggerStopConfig%1TcpClientServerIp", QT_TRANSLATE_NOOP("ParamPageWidgetItem", "Server IP")},
     {"TriggerStopConfig%1TcpClientServerPort", QT_TRANSLATE_NOOP("ParamPageWidgetItem", "Server Port")},
     {"TriggerStopConfig%1TcpClientCMDFuzzyMatch", QT_TRANSLATE_NOOP("ParamPageWidgetItem", "Fuzzy Command Matching")},
-    {"TriggerStopConfig%1TcpClientCMDFormat", QT_TRANSLATE_NOOP("ParamPageWidgetItem", "Command Format"), Role::Format, Source::TcpClient},
-    {"TriggerStopConfig%1TcpClientStopCMD", QT_TRANSLATE_NOOP("ParamPageWidgetItem", "Stop Trigger Command"), Role::Command, Source::TcpClient},
+    {"TriggerStopConfig%1TcpClientCMDFormat", QT_TRANSLATE_NOOP("ParamPageWidgetItem", "Command Format"), Role::Format,
+     Source::TcpClient},
+    {"TriggerStopConfig%1TcpClientStopCMD", QT_TRANSLATE_NOOP("ParamPageWidgetItem", "Stop Trigger Command"),
+     Role::Command, Source::TcpClient},
     {"TriggerStopConfig%1UdpPort", QT_TRANSLATE_NOOP("ParamPageWidgetItem", "UDP Port")},
     {"TriggerStopConfig%1UdpCMDFuzzyMatch", QT_TRANSLATE_NOOP("ParamPageWidgetItem", "Fuzzy Command Matching")},
-    {"TriggerStopConfig%1UdpCMDFormat", QT_TRANSLATE_NOOP("ParamPageWidgetItem", "Command Format"), Role::Format, Source::Udp},
-    {"TriggerStopConfig%1UdpStopCMD", QT_TRANSLATE_NOOP("ParamPageWidgetItem", "Stop Trigger Command"), Role::Command, Source::Udp},
+    {"TriggerStopConfig%1UdpCMDFormat", QT_TRANSLATE_NOOP("ParamPageWidgetItem", "Command Format"), Role::Format,
+     Source::Udp},
+    {"TriggerStopConfig%1UdpStopCMD", QT_TRANSLATE_NOOP("ParamPageWidgetItem", "Stop Trigger Command"), Role::Command,
+     Source::Udp},
     {"TriggerStopConfig%1SerialPortBaudrate", QT_TRANSLATE_NOOP("ParamPageWidgetItem", "Baud Rate")},
     {"TriggerStopConfig%1SerialPortFlowcontrol", QT_TRANSLATE_NOOP("ParamPageWidgetItem", "Flow Control")},
     {"TriggerStopConfig%1SerialPortStopbit", QT_TRANSLATE_NOOP("ParamPageWidgetItem", "Stop Bit")},
     {"TriggerStopConfig%1SerialPortParitybit", QT_TRANSLATE_NOOP("ParamPageWidgetItem", "Parity Bit")},
     {"TriggerStopConfig%1SerialPortDatabit", QT_TRANSLATE_NOOP("ParamPageWidgetItem", "Data Bit")},
     {"TriggerStopConfig%1SerialPortCMDFuzzyMatch", QT_TRANSLATE_NOOP("ParamPageWidgetItem", "Fuzzy Command Matching")},
-    {"TriggerStopConfig%1SerialPortCMDFormat", QT_TRANSLATE_NOOP("ParamPageWidgetItem", "Command Format"), Role::Format, Source::SerialPort},
-    {"TriggerStopConfig%1SerialPortStopCMD", QT_TRANSLATE_NOOP("ParamPageWidgetItem", "Stop Trigger Command"), Role::Command, Source::SerialPort},
+    {"TriggerStopConfig%1SerialPortCMDFormat", QT_TRANSLATE_NOOP("ParamPageWidgetItem", "Command Format"), Role::Format,
+     Source::SerialPort},
+    {"TriggerStopConfig%1SerialPortStopCMD", QT_TRANSLATE_NOOP("ParamPageWidgetItem", "Stop Trigger Command"),
+     Role::Command, Source::SerialPort},
 };
+// clang-format on
 
 } // namespace
 
@@ -179,8 +191,7 @@ void TriggerStopConfigWdg::onTriggerSourceEvent(QVariantMap payload)
 void TriggerStopConfigWdg::subscribe()
 {
     m_conditionSubscription = m_events.subscribe(QStringLiteral("TriggerStopConditionEvent"));
-    connect(m_conditionSubscription, &CoreEvent::triggered, this,
-            &TriggerStopConfigWdg::onTriggerStopConditionEvent);
+    connect(m_conditionSubscription, &CoreEvent::triggered, this, &TriggerStopConfigWdg::onTriggerStopConditionEvent);
     m_formats.subscribe<TriggerStopConfigWdg>(m_events, this,
                                               {&TriggerStopConfigWdg::onTcpserverCMDFormatEvent,
                                                &TriggerStopConfigWdg::onTcpclientCMDFormatEvent,
@@ -196,16 +207,17 @@ void TriggerStopConfigWdg::buildTitle()
     m_title->setCheckBoxVisible(false);
     m_title->setDeleteButtonVisible(m_number != 1); // the first configuration is always on
     // Unique like every connection to the kit's title; a no-op for a function object, which is made only once.
-    connect(m_title, &VyMultiCheckTitleWidget::deleteButtonClicked, this, [this] { deleteStopConfig(); },
-            Qt::UniqueConnection); // clazy:exclude=lambda-unique-connection
+    connect(
+        m_title, &VyMultiCheckTitleWidget::deleteButtonClicked, this, [this] { deleteStopConfig(); },
+        Qt::UniqueConnection); // clazy:exclude=lambda-unique-connection
     addItem(m_title);
 }
 
 void TriggerStopConfigWdg::buildRows()
 {
     for (const RowSpec &entry : kRows) {
-        auto *const row = new ParamPageWidgetItem(device(), QString::fromLatin1(entry.label),
-                                                  nodeName(entry.node), this);
+        auto *const row =
+            new ParamPageWidgetItem(device(), QString::fromLatin1(entry.label), nodeName(entry.node), this);
         // First, so that all rows are refreshed when the handlers below run.
         addItem(row);
         const Source source = entry.source;

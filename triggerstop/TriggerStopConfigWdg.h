@@ -60,8 +60,8 @@ private:
     void updateCMDFormat(CommandSource source);
     void onCMDFormatEvent(CommandSource source, const QVariantMap &payload);
 
-    ParamPageWidgetItem *m_conditionRow = nullptr;          // child
-    VyViewer::VyMultiCheckTitleWidget *m_title = nullptr;   // child
+    ParamPageWidgetItem *m_conditionRow = nullptr;        // child
+    VyViewer::VyMultiCheckTitleWidget *m_title = nullptr; // child
     const int m_number;
     CommandFormats m_formats;
     DeviceEvents m_events;

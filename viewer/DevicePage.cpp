@@ -182,8 +182,8 @@ void DevicePage::setAcquiring(bool start)
     }
     commitPendingEdit();
     const bool before = m_acquiring;
-    const long status = devices()->executeCMD(device(), start ? QStringLiteral("AcquisitionStart")
-                                                              : QStringLiteral("AcquisitionStop"));
+    const long status =
+        devices()->executeCMD(device(), start ? QStringLiteral("AcquisitionStart") : QStringLiteral("AcquisitionStop"));
     readAcquiring(status == 0 ? start : before);
     if (status == 0 || m_acquiring != before) {
         Q_EMIT devices()->deviceGrabStatusUpdate(device(), m_acquiring ? 1 : 0);
@@ -199,8 +199,8 @@ void DevicePage::loadUserSet(const QString &set)
     }
     commitPendingEdit();
     if (m_unsaved) {
-        QMessageBox box(QMessageBox::Question, tr("Load user set"),
-                        tr("Load user set %1?").arg(set), QMessageBox::Cancel, window());
+        QMessageBox box(QMessageBox::Question, tr("Load user set"), tr("Load user set %1?").arg(set),
+                        QMessageBox::Cancel, window());
         box.setObjectName(QStringLiteral("loadUserSetBox"));
         box.setTextFormat(Qt::PlainText);
         box.setInformativeText(tr("Settings of this camera were changed and are in no user set. "
@@ -244,9 +244,9 @@ void DevicePage::saveSettings()
     commitPendingEdit();
     const SettingsFile file = SettingsFile::read(*device(), bareDevice()->nodes());
     if (!file.unread.isEmpty()) {
-        DeviceText::tell(window(), QMessageBox::Critical, tr("Save settings"),
-                         tr("Nothing was saved. These settings could not be read: %1")
-                             .arg(file.unread.join(QLatin1String(", "))));
+        DeviceText::tell(
+            window(), QMessageBox::Critical, tr("Save settings"),
+            tr("Nothing was saved. These settings could not be read: %1").arg(file.unread.join(QLatin1String(", "))));
         return;
     }
     if (file.entries.isEmpty()) {
@@ -392,8 +392,8 @@ void DevicePage::followCall(const TracedDevice::Call &call)
     }
     const bool isCommand = call.operation == TracedDevice::Execute;
     if (call.status != 0) {
-        const QString value = call.value.size() > kMaxShownValue ? call.value.left(kMaxShownValue) + QChar(0x2026)
-                                                                 : call.value;
+        const QString value =
+            call.value.size() > kMaxShownValue ? call.value.left(kMaxShownValue) + QChar(0x2026) : call.value;
         Q_EMIT said(isCommand ? tr("%1 was not executed: %2").arg(call.node, call.reason)
                               : tr("%1 was not set to %2: %3").arg(call.node, value, call.reason));
     } else if (isOther && !isCommand && call.node != QLatin1String(kUserSetNode)) {

@@ -91,5 +91,5 @@ private:
     QPushButton *m_reconnect[2]; // of the strip and of the notice
     bool m_acquiring = false;
     QHash<QString, QString> m_values; // of the nodes, as they were last read or written
-    bool m_unsaved = false; // settings were written that no user set holds
+    bool m_unsaved = false;           // settings were written that no user set holds
 };

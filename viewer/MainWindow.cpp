@@ -38,9 +38,9 @@ namespace {
 
 constexpr int kMessageTime = 10000; // milliseconds that a message stays in the status bar
 constexpr char kInFront[] = "inFront";
-constexpr int kListWidth = 38;      // average characters
+constexpr int kListWidth = 38; // average characters
 constexpr int kPanelWidth = 92;
-constexpr int kPanelHeight = 45;    // lines
+constexpr int kPanelHeight = 45; // lines
 
 // The address of one host: not of this network, of a group or of everybody.
 constexpr char kAddressPattern[] = "(22[0-3]|2[01]\\d|1\\d\\d|[1-9]\\d?)(\\.(25[0-5]|2[0-4]\\d|1\\d\\d|[1-9]?\\d)){3}";
@@ -128,8 +128,7 @@ void MainWindow::openDevice(const QString &address, const QString &description)
     });
     connect(page, &DevicePage::said, this, [this, page](const QString &message) {
         const bool isCurrent = page == currentPage();
-        statusBar()->showMessage(isCurrent ? message
-                                           : tr("%1 – %2").arg(DeviceList::name(page->camera()), message),
+        statusBar()->showMessage(isCurrent ? message : tr("%1 – %2").arg(DeviceList::name(page->camera()), message),
                                  kMessageTime);
     });
     m_tabs->setCurrentIndex(m_tabs->addTab(page, QString()));
@@ -146,7 +145,8 @@ void MainWindow::fitToPanel()
     const auto *const area = currentPage() ? currentPage()->findChild<QScrollArea *>() : nullptr;
     if (area) {
         const int missing = fontMetrics().averageCharWidth() * kPanelWidth - currentPage()->width();
-        resize(width() + qMax(missing, 0), height() + area->widget()->minimumSizeHint().height() - area->viewport()->height());
+        resize(width() + qMax(missing, 0),
+               height() + area->widget()->minimumSizeHint().height() - area->viewport()->height());
     }
 }
 
@@ -203,9 +203,10 @@ void MainWindow::buildDocks()
         dock.dock->setVisible(isList);
         // Shown means seen, also where it shares its place with another: one behind that comes to the front first.
         QDockWidget *const widget = dock.dock;
-        connect(widget, &QDockWidget::visibilityChanged, widget, [widget](bool isInFront) {
-            widget->setProperty(kInFront, isInFront);
-        }, Qt::QueuedConnection); // known to the following as it was before
+        connect(
+            widget, &QDockWidget::visibilityChanged, widget,
+            [widget](bool isInFront) { widget->setProperty(kInFront, isInFront); },
+            Qt::QueuedConnection); // known to the following as it was before
         connect(widget->toggleViewAction(), &QAction::triggered, widget, [widget] {
             widget->setVisible(widget->isVisible() || !widget->property(kInFront).toBool());
             widget->raise();
@@ -273,8 +274,8 @@ void MainWindow::buildActions()
         return add(menu->addAction(QString(), this, act), name, text, need, shortcut);
     };
     put("connect", QT_TR_NOOP("&Connect…"), Nothing, Qt::CTRL + Qt::Key_N, [this] { askForAddress(); });
-    m_find = put("find", QT_TR_NOOP("&Find cameras"), Nothing, Qt::CTRL + Qt::SHIFT + Qt::Key_N,
-                 [this] { findCameras(); });
+    m_find =
+        put("find", QT_TR_NOOP("&Find cameras"), Nothing, Qt::CTRL + Qt::SHIFT + Qt::Key_N, [this] { findCameras(); });
     menu->addSeparator();
     m_reconnect = put("reconnectDevice", QT_TR_NOOP("&Reconnect"), Page, Qt::CTRL + Qt::SHIFT + Qt::Key_R,
                       onPage(&DevicePage::open));
@@ -293,11 +294,11 @@ void MainWindow::buildActions()
     m_start->setIcon(style()->standardIcon(QStyle::SP_MediaPlay));
     m_stop->setIcon(style()->standardIcon(QStyle::SP_MediaStop));
     menu->addSeparator();
-    QAction *const load = newEntryMenu(QStyle::SP_DialogOpenButton, "UserSetSelector", "UserSetLoad",
-                                       &DevicePage::loadUserSet);
+    QAction *const load =
+        newEntryMenu(QStyle::SP_DialogOpenButton, "UserSetSelector", "UserSetLoad", &DevicePage::loadUserSet);
     // Which set can be saved to is only known once it is selected.
-    QAction *const save = newEntryMenu(QStyle::SP_DialogSaveButton, "UserSetSelector", "UserSetSelector",
-                                       &DevicePage::saveUserSet);
+    QAction *const save =
+        newEntryMenu(QStyle::SP_DialogSaveButton, "UserSetSelector", "UserSetSelector", &DevicePage::saveUserSet);
     m_mode = newEntryMenu(QStyle::SP_FileDialogDetailedView, "InputTriggerMode", "InputTriggerMode",
                           &DevicePage::setTriggerMode);
     menu->addActions({add(load, "loadUserSet", QT_TR_NOOP("&Load user set"), Control),
@@ -332,7 +333,8 @@ void MainWindow::buildActions()
     put("about", QT_TR_NOOP("&About Trigger Viewer"), Nothing, {}, [this] {
         QMessageBox::about(this, tr("About Trigger Viewer"),
                            tr("<h3>Trigger Viewer %1</h3><p>Shows and changes the trigger settings of smart cameras."
-                              "</p>").arg(QStringLiteral(VYVIEWER_VERSION)));
+                              "</p>")
+                               .arg(QStringLiteral(VYVIEWER_VERSION)));
     });
 
     QToolBar *const tools = addToolBar(QString());
@@ -485,9 +487,9 @@ void MainWindow::addFoundCameras()
         m_docks[0].dock->show();
         rememberCameras();
     }
-    statusBar()->showMessage(cameras.isEmpty()     ? tr("No camera answered")
-                             : cameras.size() == 1 ? tr("1 camera found")
-                                                   : tr("%1 cameras found").arg(cameras.size()),
+    statusBar()->showMessage(cameras.isEmpty()         ? tr("No camera answered")
+                                 : cameras.size() == 1 ? tr("1 camera found")
+                                                       : tr("%1 cameras found").arg(cameras.size()),
                              kMessageTime);
 }
 

@@ -87,7 +87,7 @@ private:
     const bool m_remember;
     QString m_lastAddress;
     QFutureWatcher<QVector<DeviceList::Camera>> m_search;
-    QTimer m_nodeTimer;                // many writes in one go, one refresh
+    QTimer m_nodeTimer; // many writes in one go, one refresh
     QPointer<const DevicePage> m_followed;
     Language m_language;
     QStackedWidget *m_centre;

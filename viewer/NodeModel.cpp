@@ -66,21 +66,26 @@ QString read(Device &device, RuvoNodeType type, const QString &node)
 void NodeModel::refresh(GenicamDevice *device)
 {
     const QStringList nodes = device ? device->nodes() : QStringList();
-    setHorizontalHeaderLabels({tr("Node"), tr("Type"), tr("Access"), tr("Value"), tr("Range"), tr("Unit"),
-                               tr("Description")});
+    setHorizontalHeaderLabels(
+        {tr("Node"), tr("Type"), tr("Access"), tr("Value"), tr("Range"), tr("Unit"), tr("Description")});
     setRowCount(nodes.size());
     for (int row = 0; device && row < nodes.size(); ++row) {
         const QString &node = nodes[row];
         const RuvoNodeType type = device->getNodeType(node);
         const RuvoNodeAccessMode mode = device->getNodeAccessMode(node);
         TracedDevice::Call call{};
-        TracedDevice traced(*device, [&](const auto &made) { call = made; }, [&] { return device->lastError(); });
+        TracedDevice traced(
+            *device, [&](const auto &made) { call = made; }, [&] { return device->lastError(); });
         const bool isReadable = mode == RuvoNodeReadOnly || mode == RuvoNodeReadWrite;
         const QString range = isReadable ? read(traced, type, node) : QString();
         const bool isRead = call.status == 0;
-        const QString cells[] = {node, TracedDevice::name(type), accessText(mode),
-                                 isRead ? call.value : QStringLiteral("– ") + call.reason, isRead ? range : QString(),
-                                 device->unit(node), device->description(node).simplified()};
+        const QString cells[] = {node,
+                                 TracedDevice::name(type),
+                                 accessText(mode),
+                                 isRead ? call.value : QStringLiteral("– ") + call.reason,
+                                 isRead ? range : QString(),
+                                 device->unit(node),
+                                 device->description(node).simplified()};
         for (int column = Node; column <= Description; ++column) { // what stays the same is not reported as changed
             setData(index(row, column), cells[column], Qt::DisplayRole);
         }

@@ -9,7 +9,8 @@
 #include <QTableView>
 
 NodeView::NodeView(QWidget *parent)
-    : RecordTable(NodeModel::Node, NodeModel::Description, parent), m_model(new NodeModel(this))
+    : RecordTable(NodeModel::Node, NodeModel::Description, parent)
+    , m_model(new NodeModel(this))
 {
     addControl(new QPushButton, QT_TR_NOOP("Refresh"), [this] { refresh(); });
     m_model->refresh(nullptr); // the headings

@@ -23,6 +23,6 @@ protected:
     bool event(QEvent *event) override;
 
 private:
-    NodeModel *m_model; // child
+    NodeModel *m_model;                // child
     GenicamDevice *m_device = nullptr; // not owned
 };

@@ -29,7 +29,8 @@ Options Options::parse(const QStringList &arguments)
         QStringLiteral("ADDRESS"));
     const QCommandLineOption description(
         QStringLiteral("description"),
-        QStringLiteral("Simulate the camera that this GenICam description (XML) describes instead of the built-in one."),
+        QStringLiteral(
+            "Simulate the camera that this GenICam description (XML) describes instead of the built-in one."),
         QStringLiteral("FILE"));
     const QCommandLineOption set(
         QStringLiteral("set"),
@@ -45,16 +46,17 @@ Options Options::parse(const QStringList &arguments)
         QStringLiteral("FILE.png"));
     const QCommandLineOption apply(
         QStringLiteral("apply"),
-        QStringLiteral("Write the settings in a file into the camera and exit: with status 0 when all were taken, else 1."),
+        QStringLiteral(
+            "Write the settings in a file into the camera and exit: with status 0 when all were taken, else 1."),
         QStringLiteral("FILE"));
-    const QCommandLineOption save(
-        QStringLiteral("save"),
-        QStringLiteral("Save the camera's settings into a file, after --set and --apply, and exit."),
-        QStringLiteral("FILE"));
+    const QCommandLineOption save(QStringLiteral("save"),
+                                  QStringLiteral(
+                                      "Save the camera's settings into a file, after --set and --apply, and exit."),
+                                  QStringLiteral("FILE"));
 
     QCommandLineParser parser;
-    parser.setApplicationDescription(
-        QStringLiteral("Reference host of the trigger configuration panel, bound to smart cameras on the network or to a simulated one."));
+    parser.setApplicationDescription(QStringLiteral("Reference host of the trigger configuration panel, bound to smart "
+                                                    "cameras on the network or to a simulated one."));
     parser.addOptions({help, version, device, description, set, apply, save, language, screenshot});
     if (!parser.parse(arguments)) {
         fail(parser.errorText());
@@ -94,7 +96,8 @@ Options Options::parse(const QStringList &arguments)
         fail(QStringLiteral("--screenshot needs a file name that ends in .png, not '%1'.").arg(options.screenshot));
     }
     if (parser.isSet(language) && !Language::codes().contains(options.language)) {
-        fail(QStringLiteral("--language knows %1, not '%2'.").arg(Language::codes().join(QLatin1String(", ")), options.language));
+        fail(QStringLiteral("--language knows %1, not '%2'.")
+                 .arg(Language::codes().join(QLatin1String(", ")), options.language));
     }
     const QStringList settings = parser.values(set);
     for (const QString &setting : settings) {

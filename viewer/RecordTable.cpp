@@ -102,7 +102,8 @@ void RecordTable::copy() const
         QStringList cells;
         for (int column = 0, columns = m_shown->columnCount(); column < columns; ++column) {
             cells.append((row < 0 ? m_shown->headerData(column, Qt::Horizontal) : m_shown->index(row, column).data())
-                             .toString().replace(breaks, QStringLiteral(" ")));
+                             .toString()
+                             .replace(breaks, QStringLiteral(" ")));
         }
         lines += cells.join(QLatin1Char('\t')) + QLatin1Char('\n');
     }

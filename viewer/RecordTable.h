@@ -39,6 +39,6 @@ private:
 
     const int m_first;
     const int m_last;
-    QLineEdit *m_search; // child
+    QLineEdit *m_search;                                        // child
     QVector<QPair<QAbstractButton *, const char *>> m_controls; // children, and their texts
 };

@@ -19,9 +19,8 @@ SettingsApplier::SettingsApplier(Device &device, const SettingsFile &settings, R
         m_items.append({entry, tr("not reached")});
     }
     for (const char *first : {kSourceNode, kModeNode}) {
-        std::stable_partition(m_items.begin(), m_items.end(), [first](const Item &item) {
-            return item.entry.node == QLatin1String(first);
-        });
+        std::stable_partition(m_items.begin(), m_items.end(),
+                              [first](const Item &item) { return item.entry.node == QLatin1String(first); });
     }
 }
 
@@ -44,8 +43,9 @@ QVector<SettingsApplier::Problem> SettingsApplier::problems() const
     QVector<Problem> problems;
     for (const Item &item : m_items) {
         if (!item.reason.isEmpty()) {
-            problems.append({item.entry.node, QStringLiteral("%1 = %2: %3").arg(
-                                 item.entry.node, SettingsFile::shown(item.entry.value), item.reason)});
+            problems.append({item.entry.node,
+                             QStringLiteral("%1 = %2: %3")
+                                 .arg(item.entry.node, SettingsFile::shown(item.entry.value), item.reason)});
         }
     }
     return problems;

@@ -154,8 +154,9 @@ QString readDocument(const QJsonObject &document, QVector<SettingsFile::Entry> *
     if (!nodes.isArray()) {
         return SettingsFile::tr("\"nodes\" is no list");
     }
-    QString error = findUnknownKey(document, {QStringLiteral("format"), QStringLiteral("version"),
-                                              QStringLiteral("camera"), QStringLiteral("nodes")});
+    QString error = findUnknownKey(document,
+                                   {QStringLiteral("format"), QStringLiteral("version"), QStringLiteral("camera"),
+                                    QStringLiteral("nodes")});
     QSet<QString> names;
     const QJsonArray list = nodes.toArray();
     for (int i = 0; i < list.size() && error.isEmpty(); ++i) {

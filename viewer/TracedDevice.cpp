@@ -15,15 +15,17 @@ QString entry(std::initializer_list<const char *> names, int number)
 } // namespace
 
 TracedDevice::TracedDevice(Device &device, Report report, Reason reason)
-    : m_device(device), m_report(std::move(report)), m_reason(std::move(reason))
-{
-}
+    : m_device(device)
+    , m_report(std::move(report))
+    , m_reason(std::move(reason))
+{}
 
 QString TracedDevice::name(Operation operation)
 {
     return entry({"getParamInt", "getParamFloat", "getParamBool", "getParamEnum", "getParamString", "getNodeType",
-                  "getNodeAccessMode", "setParamInt", "setParamFloat", "setParamBool", "setParamEnum",
-                  "setParamString", "executeCMD"}, operation);
+                  "getNodeAccessMode", "setParamInt", "setParamFloat", "setParamBool", "setParamEnum", "setParamString",
+                  "executeCMD"},
+                 operation);
 }
 
 QString TracedDevice::name(RuvoNodeType type)

@@ -14,10 +14,23 @@
 class TracedDevice final : public Device
 {
 public:
+    // clang-format off: two kinds, two lines
     enum Operation : quint8 {
-        GetInt, GetFloat, GetBool, GetEnum, GetString, GetType, GetAccessMode, // reads
-        SetInt, SetFloat, SetBool, SetEnum, SetString, Execute                 // writes
+        GetInt,
+        GetFloat,
+        GetBool,
+        GetEnum,
+        GetString,
+        GetType,
+        GetAccessMode, // reads
+        SetInt,
+        SetFloat,
+        SetBool,
+        SetEnum,
+        SetString,
+        Execute // writes
     };
+    // clang-format on
     struct Call
     {
         qint64 time;        // when it began, in milliseconds since the epoch
@@ -25,8 +38,8 @@ public:
         long status;        // 0 for getNodeType and getNodeAccessMode
         Operation operation;
         QString node;
-        QString value;      // written or read; empty where a read failed; a long text is cut, and ends in "…"
-        QString reason;     // of a failure; cut likewise
+        QString value;  // written or read; empty where a read failed; a long text is cut, and ends in "…"
+        QString reason; // of a failure; cut likewise
     };
     using Report = std::function<void(const Call &)>;
     using Reason = std::function<QString()>;
@@ -44,11 +57,11 @@ public:
 
 private:
     /// What each operation calls, in their order.
-    static constexpr auto kMethods = std::make_tuple(
-        &Device::getParamInt, &Device::getParamFloat, &Device::getParamBool, &Device::getParamEnum,
-        &Device::getParamString, &Device::getNodeType, &Device::getNodeAccessMode, &Device::setParamInt,
-        &Device::setParamFloat, &Device::setParamBool, &Device::setParamEnum, &Device::setParamString,
-        &Device::executeCMD);
+    static constexpr auto kMethods =
+        std::make_tuple(&Device::getParamInt, &Device::getParamFloat, &Device::getParamBool, &Device::getParamEnum,
+                        &Device::getParamString, &Device::getNodeType, &Device::getNodeAccessMode, &Device::setParamInt,
+                        &Device::setParamFloat, &Device::setParamBool, &Device::setParamEnum, &Device::setParamString,
+                        &Device::executeCMD);
 
     /// The first argument, if any, is what the call reads or writes.
     template <Operation operation, typename... Arguments>

@@ -8,7 +8,7 @@
 
 namespace {
 
-constexpr int kShowAfter = 100; // milliseconds
+constexpr int kShowAfter = 100;      // milliseconds
 constexpr QRgb kFailed = 0xff7a0010; // on a ground of its own, in light and dark surroundings alike
 constexpr QRgb kFailedReadGround = 0xfffff0c8;
 constexpr QRgb kFailedWriteGround = 0xffffd6d6;

@@ -57,10 +57,13 @@ QByteArray TrafficView::csv() const
     QByteArray lines = "Time,Operation,Node,Value,Status,Reason,Microseconds\r\n";
     for (int row = 0; row < m_shown->rowCount(); ++row) {
         const TracedDevice::Call &call = m_model->call(m_shown->mapToSource(m_shown->index(row, 0)).row());
-        const QStringList fields = {
-            QDateTime::fromMSecsSinceEpoch(call.time).toString(Qt::ISODateWithMs),
-            TracedDevice::name(call.operation), field(call.node), field(call.value), QString::number(call.status),
-            field(call.reason), QString::number(double(call.nanoseconds) / 1000, 'f', 3)};
+        const QStringList fields = {QDateTime::fromMSecsSinceEpoch(call.time).toString(Qt::ISODateWithMs),
+                                    TracedDevice::name(call.operation),
+                                    field(call.node),
+                                    field(call.value),
+                                    QString::number(call.status),
+                                    field(call.reason),
+                                    QString::number(double(call.nanoseconds) / 1000, 'f', 3)};
         lines += fields.join(QLatin1Char(',')).toUtf8() + "\r\n";
     }
     return lines;
@@ -97,8 +100,8 @@ void TrafficView::followEnd()
 
 void TrafficView::save()
 {
-    const QString name = QFileDialog::getSaveFileName(this, tr("Save traffic"), QStringLiteral("traffic.csv"),
-                                                      tr("CSV files (*.csv)"));
+    const QString name =
+        QFileDialog::getSaveFileName(this, tr("Save traffic"), QStringLiteral("traffic.csv"), tr("CSV files (*.csv)"));
     const QString error = name.isEmpty() ? QString() : WholeFile::write(name, csv());
     if (!error.isEmpty()) {
         DeviceText::tell(this, QMessageBox::Critical, tr("Save traffic"),

@@ -42,8 +42,7 @@ int applySettings(GenicamDevice &camera, const QString &fileName)
         return Options::complain(QStringLiteral("%1: %2").arg(fileName, error));
     }
     SettingsApplier applier(camera, settings, [&camera] { return camera.lastError(); });
-    while (applier.step()) {
-    }
+    while (applier.step()) {}
     const auto problems = applier.problems();
     for (const SettingsApplier::Problem &problem : problems) {
         Options::complain(problem.reason);
@@ -157,8 +156,8 @@ int main(int argc, char *argv[])
         return QApplication::exec();
     }
     const QString name = options.screenshot.isEmpty()
-                             ? QDir::current().absoluteFilePath(QStringLiteral("trigger-panel.png"))
-                             : options.screenshot;
+        ? QDir::current().absoluteFilePath(QStringLiteral("trigger-panel.png"))
+        : options.screenshot;
     const int status = render(window, name);
     if (status == 0 && options.screenshot.isEmpty()) {
         std::printf("There is no display: the window was rendered into %s\n", qPrintable(name));

@@ -6,8 +6,7 @@ namespace VyViewer {
 
 BlockTitleAccessible::BlockTitleAccessible(BlockTitleBar *bar)
     : QAccessibleWidget(bar, QAccessible::Button)
-{
-}
+{}
 
 QString BlockTitleAccessible::text(QAccessible::Text kind) const
 {

@@ -6,8 +6,7 @@ namespace VyViewer {
 
 ToggleSwitchAccessible::ToggleSwitchAccessible(VyToggleSwitch *toggle)
     : QAccessibleWidget(toggle, QAccessible::CheckBox)
-{
-}
+{}
 
 QAccessible::State ToggleSwitchAccessible::state() const
 {

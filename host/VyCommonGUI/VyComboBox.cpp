@@ -64,7 +64,7 @@ void VyComboBox::showPopup()
     view()->setPalette(colors);
     const int frame = popup->width() - popup->contentsRect().width();
     const int needed = view()->sizeHintForColumn(modelColumn()) + 2 * view()->frameWidth()
-                       + style()->pixelMetric(QStyle::PM_ScrollBarExtent, nullptr, view());
+        + style()->pixelMetric(QStyle::PM_ScrollBarExtent, nullptr, view());
     view()->setMinimumWidth(qMin(needed, screen()->availableGeometry().width() - frame));
     QComboBox::showPopup();
 }

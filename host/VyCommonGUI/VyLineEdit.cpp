@@ -4,8 +4,7 @@ namespace VyViewer {
 
 VyLineEdit::VyLineEdit(QWidget *parent)
     : QLineEdit(parent)
-{
-}
+{}
 
 VyLineEdit::~VyLineEdit() = default;
 

@@ -102,9 +102,7 @@ void VyToggleSwitch::mouseReleaseEvent(QMouseEvent *event)
         return;
     }
     m_draggedTo = event->pos();
-    const bool on = m_dragged                      ? knobPosition() >= 0.5
-                    : rect().contains(event->pos()) ? !m_toggled
-                                                    : m_toggled;
+    const bool on = m_dragged ? knobPosition() >= 0.5 : rect().contains(event->pos()) ? !m_toggled : m_toggled;
     cancelPress();
     changeByUser(on);
 }
@@ -129,8 +127,14 @@ void VyToggleSwitch::paintEvent(QPaintEvent *)
     }
     // At rest it looks like all others in its state; smooth shapes take long to paint.
     const QString key = QStringLiteral("VyToggleSwitch %1 %2 %3 %4 %5 %6 %7 %8")
-                            .arg(width()).arg(height()).arg(fontMetrics().height()).arg(devicePixelRatioF())
-                            .arg(palette().cacheKey()).arg(int(layoutDirection())).arg(m_toggled).arg(isEnabled());
+                            .arg(width())
+                            .arg(height())
+                            .arg(fontMetrics().height())
+                            .arg(devicePixelRatioF())
+                            .arg(palette().cacheKey())
+                            .arg(int(layoutDirection()))
+                            .arg(m_toggled)
+                            .arg(isEnabled());
     QPixmap picture;
     if (!QPixmapCache::find(key, &picture)) {
         picture = QPixmap(size() * devicePixelRatioF());

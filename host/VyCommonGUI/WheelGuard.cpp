@@ -26,8 +26,7 @@ bool WheelGuard::eventFilter(QObject *watched, QEvent *event)
 
 WheelGuard::WheelGuard(Pass pass)
     : m_pass(pass)
-{
-}
+{}
 
 WheelGuard::~WheelGuard() = default;
 

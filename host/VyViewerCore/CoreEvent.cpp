@@ -8,8 +8,7 @@ namespace VyViewer {
 CoreEvent::CoreEvent(const QString &name, QObject *parent)
     : QObject(parent)
     , m_name(name)
-{
-}
+{}
 
 CoreEvent::~CoreEvent()
 {

@@ -9,7 +9,7 @@ namespace VyViewer {
 namespace {
 constexpr long kSuccess = 0;
 constexpr long kFailure = -1;
-}
+} // namespace
 
 // Never destroyed: subscriptions that outlive main() still unregister themselves.
 template <>
