@@ -13,6 +13,8 @@
 class Meter
 {
 public:
+    Meter() = default;
+    Q_DISABLE_COPY(Meter)
     virtual ~Meter() = default;
 
     virtual void begin() = 0;

@@ -14,6 +14,8 @@ public:
 
     static bool contains(quint64 address, quint64 size) { return size <= kSize && address <= kSize - size; }
 
+    CameraMemory() = default;
+    Q_DISABLE_COPY(CameraMemory)
     virtual ~CameraMemory() = default;
     virtual void read(quint64 address, void *bytes, quint32 size) const = 0;
     virtual void write(quint64 address, const void *bytes, quint32 size) = 0;

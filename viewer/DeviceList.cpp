@@ -11,9 +11,10 @@ namespace {
 
 constexpr int kIconSize = 16; // pixels at 100 %
 
-struct Item : QListWidgetItem
+struct Item final : QListWidgetItem
 {
     using QListWidgetItem::QListWidgetItem;
+    Q_DISABLE_COPY(Item)
 
     void update()
     {

@@ -336,7 +336,7 @@ void DevicePage::retranslate()
         what = tr("The connection to %1 was lost.").arg(name);
     }
     const QString reason = m_connection.reason();
-    m_noticeText->setText(reason.isEmpty() ? what : what + QLatin1String("\n\n") + reason);
+    m_noticeText->setText(reason.isEmpty() ? what : what + QStringLiteral("\n\n") + reason);
     m_stripText->setText(tr("Another program controls this camera: settings can be read, not changed."));
     for (QPushButton *button : m_reconnect) {
         button->setText(tr("&Reconnect"));
