@@ -215,6 +215,14 @@
     </message>
 </context>
 <context>
+    <name>Language</name>
+    <message>
+        <source>English</source>
+        <extracomment>The name of the language of this file, in that language.</extracomment>
+        <translation>한국어</translation>
+    </message>
+</context>
+<context>
     <name>MainWindow</name>
     <message>
         <source>Trigger Viewer</source>

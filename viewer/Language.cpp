@@ -26,9 +26,13 @@ QStringList Language::codes()
 
 QString Language::name(const QString &code)
 {
-    QString name = QLocale(code).nativeLanguageName();
-    name[0] = name[0].toUpper();
-    return name;
+    // Not nativeLanguageName(), which tells American English from others, and the Spanish of Spain.
+    //: The name of the language of this file, in that language.
+    const char *const name = QT_TRANSLATE_NOOP("Language", "English");
+    QTranslator texts;
+    return texts.load(QLocale(code), QStringLiteral("trigger"), QStringLiteral("_"), folder())
+        ? texts.translate("Language", name)
+        : QString::fromLatin1(name);
 }
 
 Language::~Language() = default;
