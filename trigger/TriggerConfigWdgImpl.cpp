@@ -26,7 +26,7 @@ struct RowSpec
     Source source = Source::TcpServer; // of a format or command row
 };
 
-// clang-format off: one row a line
+// clang-format off
 constexpr RowSpec kRows[] = {
     {"InputTriggerMode", QT_TRANSLATE_NOOP("ParamPageWidgetItem", "Trigger Mode"), Role::TriggerMode},
     {"InputTriggerSource", QT_TRANSLATE_NOOP("ParamPageWidgetItem", "Trigger Source"), Role::TriggerSource},
@@ -38,12 +38,9 @@ constexpr RowSpec kRows[] = {
     {"TcpServer", QT_TRANSLATE_NOOP("TriggerConfigWdgImpl", "TCP Server"), Role::Title},
     {"TriggerTcpServerPort", QT_TRANSLATE_NOOP("ParamPageWidgetItem", "TCP Port")},
     {"TriggerTcpServerCMDFuzzyMatching", QT_TRANSLATE_NOOP("ParamPageWidgetItem", "Fuzzy Command Matching")},
-    {"TriggerTcpServerCMDFormat", QT_TRANSLATE_NOOP("ParamPageWidgetItem", "Command Format"), Role::Format,
-     Source::TcpServer},
-    {"TriggerTcpServerStartCMD", QT_TRANSLATE_NOOP("ParamPageWidgetItem", "Start Trigger Command"), Role::Command,
-     Source::TcpServer},
-    {"TriggerTcpServerStorageImageCMD", QT_TRANSLATE_NOOP("ParamPageWidgetItem", "FTP Save Image Command"),
-     Role::Command, Source::TcpServer},
+    {"TriggerTcpServerCMDFormat", QT_TRANSLATE_NOOP("ParamPageWidgetItem", "Command Format"), Role::Format, Source::TcpServer},
+    {"TriggerTcpServerStartCMD", QT_TRANSLATE_NOOP("ParamPageWidgetItem", "Start Trigger Command"), Role::Command, Source::TcpServer},
+    {"TriggerTcpServerStorageImageCMD", QT_TRANSLATE_NOOP("ParamPageWidgetItem", "FTP Save Image Command"), Role::Command, Source::TcpServer},
     {"AutoTrigger", QT_TRANSLATE_NOOP("TriggerConfigWdgImpl", "Auto Trigger"), Role::Title},
     {"TriggerAutoInterval", QT_TRANSLATE_NOOP("ParamPageWidgetItem", "Auto Trigger Interval(ms)")},
     {"SensingTrigger", QT_TRANSLATE_NOOP("TriggerConfigWdgImpl", "Sensing Trigger"), Role::Title},
@@ -53,20 +50,16 @@ constexpr RowSpec kRows[] = {
     {"TriggerTcpClientServerIp", QT_TRANSLATE_NOOP("ParamPageWidgetItem", "Server IP")},
     {"TriggerTcpClientServerPort", QT_TRANSLATE_NOOP("ParamPageWidgetItem", "Server Port")},
     {"TriggerTcpClientCMDFuzzyMatch", QT_TRANSLATE_NOOP("ParamPageWidgetItem", "Fuzzy Command Matching")},
-    {"TriggerTcpClientCMDFormat", QT_TRANSLATE_NOOP("ParamPageWidgetItem", "Command Format"), Role::Format,
-     Source::TcpClient},
-    {"TriggerTcpClientStartCMD", QT_TRANSLATE_NOOP("ParamPageWidgetItem", "Start Trigger Command"), Role::Command,
-     Source::TcpClient},
+    {"TriggerTcpClientCMDFormat", QT_TRANSLATE_NOOP("ParamPageWidgetItem", "Command Format"), Role::Format, Source::TcpClient},
+    {"TriggerTcpClientStartCMD", QT_TRANSLATE_NOOP("ParamPageWidgetItem", "Start Trigger Command"), Role::Command, Source::TcpClient},
     {"TriggerTcpClientHeartbeatEnable", QT_TRANSLATE_NOOP("ParamPageWidgetItem", "Heartbeat Enable")},
-    {"TriggerTcpClientHeartbeatCMD", QT_TRANSLATE_NOOP("ParamPageWidgetItem", "Heartbeat Command"), Role::Command,
-     Source::TcpClient},
+    {"TriggerTcpClientHeartbeatCMD", QT_TRANSLATE_NOOP("ParamPageWidgetItem", "Heartbeat Command"), Role::Command, Source::TcpClient},
     {"TriggerTcpClientHeartbeatInterval", QT_TRANSLATE_NOOP("ParamPageWidgetItem", "Heartbeat Interval(ms)")},
     {"Udp", QT_TRANSLATE_NOOP("TriggerConfigWdgImpl", "UDP"), Role::Title},
     {"TriggerUdpPort", QT_TRANSLATE_NOOP("ParamPageWidgetItem", "UDP Port")},
     {"TriggerUdpCMDFuzzyMatch", QT_TRANSLATE_NOOP("ParamPageWidgetItem", "Fuzzy Command Matching")},
     {"TriggerUdpCMDFormat", QT_TRANSLATE_NOOP("ParamPageWidgetItem", "Command Format"), Role::Format, Source::Udp},
-    {"TriggerUdpStartCMD", QT_TRANSLATE_NOOP("ParamPageWidgetItem", "Start Trigger Command"), Role::Command,
-     Source::Udp},
+    {"TriggerUdpStartCMD", QT_TRANSLATE_NOOP("ParamPageWidgetItem", "Start Trigger Command"), Role::Command, Source::Udp},
     {"RS-232", QT_TRANSLATE_NOOP("TriggerConfigWdgImpl", "RS-232"), Role::Title},
     {"TriggerSerialPortBaudrate", QT_TRANSLATE_NOOP("ParamPageWidgetItem", "Baud Rate")},
     {"TriggerSerialPortFlowcontrol", QT_TRANSLATE_NOOP("ParamPageWidgetItem", "Flow Control")},
@@ -74,10 +67,8 @@ constexpr RowSpec kRows[] = {
     {"TriggerSerialPortParitybit", QT_TRANSLATE_NOOP("ParamPageWidgetItem", "Parity Bit")},
     {"TriggerSerialPortDatabit", QT_TRANSLATE_NOOP("ParamPageWidgetItem", "Data Bit")},
     {"TriggerSerialPortCMDFuzzyMatch", QT_TRANSLATE_NOOP("ParamPageWidgetItem", "Fuzzy Command Matching")},
-    {"TriggerSerialPortCMDFormat", QT_TRANSLATE_NOOP("ParamPageWidgetItem", "Command Format"), Role::Format,
-     Source::SerialPort},
-    {"TriggerSerialPortStartCMD", QT_TRANSLATE_NOOP("ParamPageWidgetItem", "Start Trigger Command"), Role::Command,
-     Source::SerialPort},
+    {"TriggerSerialPortCMDFormat", QT_TRANSLATE_NOOP("ParamPageWidgetItem", "Command Format"), Role::Format, Source::SerialPort},
+    {"TriggerSerialPortStartCMD", QT_TRANSLATE_NOOP("ParamPageWidgetItem", "Start Trigger Command"), Role::Command, Source::SerialPort},
 };
 // clang-format on
 

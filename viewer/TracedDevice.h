@@ -14,21 +14,10 @@
 class TracedDevice final : public Device
 {
 public:
-    // clang-format off: two kinds, two lines
+    // clang-format off
     enum Operation : quint8 {
-        GetInt,
-        GetFloat,
-        GetBool,
-        GetEnum,
-        GetString,
-        GetType,
-        GetAccessMode, // reads
-        SetInt,
-        SetFloat,
-        SetBool,
-        SetEnum,
-        SetString,
-        Execute // writes
+        GetInt, GetFloat, GetBool, GetEnum, GetString, GetType, GetAccessMode, // reads
+        SetInt, SetFloat, SetBool, SetEnum, SetString, Execute                 // writes
     };
     // clang-format on
     struct Call

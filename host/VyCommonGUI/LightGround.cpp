@@ -17,16 +17,24 @@ QPalette lightPalette()
         QRgb enabled;
         QRgb disabled;
     };
-    // clang-format off: one role a line
+    // clang-format off
     static constexpr Shade kShades[] = {
-        {QPalette::Window, 0xffffffff, 0xffffffff},      {QPalette::WindowText, 0xff202326, 0xff6b7075},
-        {QPalette::Base, 0xffffffff, 0xfff5f6f7},        {QPalette::AlternateBase, 0xfff1f3f5, 0xfff1f3f5},
-        {QPalette::Text, 0xff202326, 0xff6b7075},        {QPalette::PlaceholderText, 0xff73787d, 0xffa8adb2},
-        {QPalette::Button, 0xfff1f3f5, 0xfff5f6f7},      {QPalette::ButtonText, 0xff202326, 0xff6b7075},
-        {QPalette::BrightText, 0xffffffff, 0xffffffff},  {QPalette::ToolTipBase, 0xffffffff, 0xffffffff},
-        {QPalette::ToolTipText, 0xff202326, 0xff202326}, {QPalette::Light, 0xffffffff, 0xffffffff},
-        {QPalette::Midlight, 0xffe6e9ec, 0xffe6e9ec},    {QPalette::Mid, 0xffc3c8cd, 0xffc3c8cd},
-        {QPalette::Dark, 0xff9ba1a7, 0xffb5babf},        {QPalette::Shadow, 0xff73787d, 0xff9ba1a7},
+        {QPalette::Window, 0xffffffff, 0xffffffff},
+        {QPalette::WindowText, 0xff202326, 0xff6b7075},
+        {QPalette::Base, 0xffffffff, 0xfff5f6f7},
+        {QPalette::AlternateBase, 0xfff1f3f5, 0xfff1f3f5},
+        {QPalette::Text, 0xff202326, 0xff6b7075},
+        {QPalette::PlaceholderText, 0xff73787d, 0xffa8adb2},
+        {QPalette::Button, 0xfff1f3f5, 0xfff5f6f7},
+        {QPalette::ButtonText, 0xff202326, 0xff6b7075},
+        {QPalette::BrightText, 0xffffffff, 0xffffffff},
+        {QPalette::ToolTipBase, 0xffffffff, 0xffffffff},
+        {QPalette::ToolTipText, 0xff202326, 0xff202326},
+        {QPalette::Light, 0xffffffff, 0xffffffff},
+        {QPalette::Midlight, 0xffe6e9ec, 0xffe6e9ec},
+        {QPalette::Mid, 0xffc3c8cd, 0xffc3c8cd},
+        {QPalette::Dark, 0xff9ba1a7, 0xffb5babf},
+        {QPalette::Shadow, 0xff73787d, 0xff9ba1a7},
     };
     // clang-format on
     QPalette palette;
