@@ -9,6 +9,7 @@
 #include <QApplication>
 #include <QBuffer>
 #include <QDir>
+#include <QIcon>
 #include <QLoggingCategory>
 
 #include <algorithm>
@@ -100,6 +101,16 @@ QString prepare(const MainWindow &window, const Options &options)
     return page->device() ? setNodes(*page->device(), options) : page->connection().reason();
 }
 
+/// As pictures: not every machine has Qt's plugin for drawings.
+QIcon icon()
+{
+    QIcon icon;
+    for (const int size : {16, 32, 48, 256}) {
+        icon.addFile(QStringLiteral(":/vyviewer/icons/vyviewer-%1.png").arg(size));
+    }
+    return icon;
+}
+
 int render(MainWindow &window, const QString &name)
 {
     window.show();
@@ -141,6 +152,8 @@ int main(int argc, char *argv[])
     QCoreApplication::setOrganizationName(QStringLiteral("vytrigger"));
     QCoreApplication::setApplicationName(QStringLiteral("vyviewer"));
     const QApplication application(argc, argv);
+    QApplication::setWindowIcon(icon());
+    QGuiApplication::setDesktopFileName(QStringLiteral("vyviewer")); // by which Wayland finds the icon
     const bool isVisible = QGuiApplication::platformName() != QLatin1String("offscreen");
     MainWindow window(options.language, isVisible); // a picture is the same whatever was done before
     window.openDevice(options.device, options.description);
