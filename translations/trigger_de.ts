@@ -337,10 +337,6 @@
         <translation>Über Trigger-Viewer</translation>
     </message>
     <message>
-        <source>&lt;h3&gt;Trigger Viewer %1&lt;/h3&gt;&lt;p&gt;Shows and changes the trigger settings of smart cameras.&lt;/p&gt;</source>
-        <translation>&lt;h3&gt;Trigger-Viewer %1&lt;/h3&gt;&lt;p&gt;Zeigt und ändert die Trigger-Einstellungen von Smart-Kameras.&lt;/p&gt;</translation>
-    </message>
-    <message>
         <source>No device is open.</source>
         <translation>Es ist kein Gerät geöffnet.</translation>
     </message>
@@ -375,6 +371,10 @@
     <message>
         <source>%1 cameras found</source>
         <translation>%1 Kameras gefunden</translation>
+    </message>
+    <message>
+        <source>&lt;h3&gt;Trigger Viewer %1&lt;/h3&gt;&lt;p&gt;Shows and changes the trigger settings of smart cameras.&lt;/p&gt;&lt;p&gt;Uses Qt, Aravis and GLib under the GNU Lesser General Public License.&lt;/p&gt;</source>
+        <translation>&lt;h3&gt;Trigger-Viewer %1&lt;/h3&gt;&lt;p&gt;Zeigt und ändert die Trigger-Einstellungen von Smart-Kameras.&lt;/p&gt;&lt;p&gt;Verwendet Qt, Aravis und GLib unter der GNU Lesser General Public License.&lt;/p&gt;</translation>
     </message>
 </context>
 <context>

@@ -337,10 +337,6 @@
         <translation>Acerca de Trigger Viewer</translation>
     </message>
     <message>
-        <source>&lt;h3&gt;Trigger Viewer %1&lt;/h3&gt;&lt;p&gt;Shows and changes the trigger settings of smart cameras.&lt;/p&gt;</source>
-        <translation>&lt;h3&gt;Trigger Viewer %1&lt;/h3&gt;&lt;p&gt;Muestra y modifica los ajustes de disparo de cámaras inteligentes.&lt;/p&gt;</translation>
-    </message>
-    <message>
         <source>No device is open.</source>
         <translation>No hay ningún dispositivo abierto.</translation>
     </message>
@@ -375,6 +371,10 @@
     <message>
         <source>%1 cameras found</source>
         <translation>%1 cámaras encontradas</translation>
+    </message>
+    <message>
+        <source>&lt;h3&gt;Trigger Viewer %1&lt;/h3&gt;&lt;p&gt;Shows and changes the trigger settings of smart cameras.&lt;/p&gt;&lt;p&gt;Uses Qt, Aravis and GLib under the GNU Lesser General Public License.&lt;/p&gt;</source>
+        <translation>&lt;h3&gt;Trigger Viewer %1&lt;/h3&gt;&lt;p&gt;Muestra y modifica los ajustes de disparo de cámaras inteligentes.&lt;/p&gt;&lt;p&gt;Utiliza Qt, Aravis y GLib bajo la GNU Lesser General Public License.&lt;/p&gt;</translation>
     </message>
 </context>
 <context>

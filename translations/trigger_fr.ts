@@ -337,10 +337,6 @@
         <translation>À propos de Trigger Viewer</translation>
     </message>
     <message>
-        <source>&lt;h3&gt;Trigger Viewer %1&lt;/h3&gt;&lt;p&gt;Shows and changes the trigger settings of smart cameras.&lt;/p&gt;</source>
-        <translation>&lt;h3&gt;Trigger Viewer %1&lt;/h3&gt;&lt;p&gt;Affiche et modifie les paramètres de déclenchement des caméras intelligentes.&lt;/p&gt;</translation>
-    </message>
-    <message>
         <source>No device is open.</source>
         <translation>Aucun appareil n’est ouvert.</translation>
     </message>
@@ -375,6 +371,10 @@
     <message>
         <source>%1 cameras found</source>
         <translation>%1 caméras trouvées</translation>
+    </message>
+    <message>
+        <source>&lt;h3&gt;Trigger Viewer %1&lt;/h3&gt;&lt;p&gt;Shows and changes the trigger settings of smart cameras.&lt;/p&gt;&lt;p&gt;Uses Qt, Aravis and GLib under the GNU Lesser General Public License.&lt;/p&gt;</source>
+        <translation>&lt;h3&gt;Trigger Viewer %1&lt;/h3&gt;&lt;p&gt;Affiche et modifie les paramètres de déclenchement des caméras intelligentes.&lt;/p&gt;&lt;p&gt;Utilise Qt, Aravis et GLib sous la GNU Lesser General Public License.&lt;/p&gt;</translation>
     </message>
 </context>
 <context>

@@ -337,10 +337,6 @@
         <translation>トリガービューアーについて</translation>
     </message>
     <message>
-        <source>&lt;h3&gt;Trigger Viewer %1&lt;/h3&gt;&lt;p&gt;Shows and changes the trigger settings of smart cameras.&lt;/p&gt;</source>
-        <translation>&lt;h3&gt;トリガービューアー %1&lt;/h3&gt;&lt;p&gt;スマートカメラのトリガー設定を表示・変更します。&lt;/p&gt;</translation>
-    </message>
-    <message>
         <source>No device is open.</source>
         <translation>開いているデバイスはありません。</translation>
     </message>
@@ -375,6 +371,10 @@
     <message>
         <source>%1 cameras found</source>
         <translation>%1 台のカメラが見つかりました</translation>
+    </message>
+    <message>
+        <source>&lt;h3&gt;Trigger Viewer %1&lt;/h3&gt;&lt;p&gt;Shows and changes the trigger settings of smart cameras.&lt;/p&gt;&lt;p&gt;Uses Qt, Aravis and GLib under the GNU Lesser General Public License.&lt;/p&gt;</source>
+        <translation>&lt;h3&gt;トリガービューアー %1&lt;/h3&gt;&lt;p&gt;スマートカメラのトリガー設定を表示・変更します。&lt;/p&gt;&lt;p&gt;Qt、Aravis、GLib を GNU Lesser General Public License のもとで使用しています。&lt;/p&gt;</translation>
     </message>
 </context>
 <context>

@@ -337,10 +337,6 @@
         <translation>트리거 뷰어 정보</translation>
     </message>
     <message>
-        <source>&lt;h3&gt;Trigger Viewer %1&lt;/h3&gt;&lt;p&gt;Shows and changes the trigger settings of smart cameras.&lt;/p&gt;</source>
-        <translation>&lt;h3&gt;트리거 뷰어 %1&lt;/h3&gt;&lt;p&gt;스마트 카메라의 트리거 설정을 표시하고 변경합니다.&lt;/p&gt;</translation>
-    </message>
-    <message>
         <source>No device is open.</source>
         <translation>열려 있는 장치가 없습니다.</translation>
     </message>
@@ -375,6 +371,10 @@
     <message>
         <source>%1 cameras found</source>
         <translation>카메라 %1대를 찾았습니다</translation>
+    </message>
+    <message>
+        <source>&lt;h3&gt;Trigger Viewer %1&lt;/h3&gt;&lt;p&gt;Shows and changes the trigger settings of smart cameras.&lt;/p&gt;&lt;p&gt;Uses Qt, Aravis and GLib under the GNU Lesser General Public License.&lt;/p&gt;</source>
+        <translation>&lt;h3&gt;트리거 뷰어 %1&lt;/h3&gt;&lt;p&gt;스마트 카메라의 트리거 설정을 표시하고 변경합니다.&lt;/p&gt;&lt;p&gt;Qt, Aravis, GLib를 GNU Lesser General Public License에 따라 사용합니다.&lt;/p&gt;</translation>
     </message>
 </context>
 <context>

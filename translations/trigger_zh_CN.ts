@@ -337,10 +337,6 @@
         <translation>关于触发查看器</translation>
     </message>
     <message>
-        <source>&lt;h3&gt;Trigger Viewer %1&lt;/h3&gt;&lt;p&gt;Shows and changes the trigger settings of smart cameras.&lt;/p&gt;</source>
-        <translation>&lt;h3&gt;触发查看器 %1&lt;/h3&gt;&lt;p&gt;用于显示和更改智能相机的触发设置。&lt;/p&gt;</translation>
-    </message>
-    <message>
         <source>No device is open.</source>
         <translation>没有打开的设备。</translation>
     </message>
@@ -375,6 +371,10 @@
     <message>
         <source>%1 cameras found</source>
         <translation>找到 %1 台相机</translation>
+    </message>
+    <message>
+        <source>&lt;h3&gt;Trigger Viewer %1&lt;/h3&gt;&lt;p&gt;Shows and changes the trigger settings of smart cameras.&lt;/p&gt;&lt;p&gt;Uses Qt, Aravis and GLib under the GNU Lesser General Public License.&lt;/p&gt;</source>
+        <translation>&lt;h3&gt;触发查看器 %1&lt;/h3&gt;&lt;p&gt;用于显示和更改智能相机的触发设置。&lt;/p&gt;&lt;p&gt;在 GNU Lesser General Public License 下使用 Qt、Aravis 和 GLib。&lt;/p&gt;</translation>
     </message>
 </context>
 <context>

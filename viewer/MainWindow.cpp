@@ -333,7 +333,7 @@ void MainWindow::buildActions()
     put("about", QT_TR_NOOP("&About Trigger Viewer"), Nothing, {}, [this] {
         QMessageBox::about(this, tr("About Trigger Viewer"),
                            tr("<h3>Trigger Viewer %1</h3><p>Shows and changes the trigger settings of smart cameras."
-                              "</p>")
+                              "</p><p>Uses Qt, Aravis and GLib under the GNU Lesser General Public License.</p>")
                                .arg(QStringLiteral(VYVIEWER_VERSION)));
     });
 
