@@ -50,6 +50,9 @@ QVector<Node> allNodes(const GenicamDevice &device)
                                           [&](const auto &row) { return fits(name, row.part); });
         const auto type = std::find_if(std::begin(kTypes), std::end(kTypes),
                                        [&](const auto &row) { return fits(name, row.ending); });
+        if (section == std::end(kSections) || type == std::end(kTypes)) {
+            qFatal("kSections or kTypes knows nothing of %s", qPrintable(name));
+        }
         const int stop = name.startsWith("TriggerStopConfig"_s) ? name.at(17).digitValue() : 0;
         nodes.append({name, QLatin1String(section->when), stop, type->type});
     }
