@@ -22,6 +22,7 @@ constexpr std::array<SourceSpec, CommandFormats::kSources.size()> kSourceSpecs{{
     {"udpCMDFormatEvent", "TriggerUdpCMDFormat"},
     {"serialportCMDFormatEvent", "TriggerSerialPortCMDFormat"},
 }};
+static_assert(kSourceSpecs.back().event, "every source has a line");
 
 const SourceSpec &specOf(CommandSource source)
 {
