@@ -47,8 +47,8 @@ void VyTriggerConfigWidgetImpl::setVyDevice(Device *device)
     m_triggerBlock->setContentsWidget(m_triggerPage);
     connect(m_triggerPage, &TriggerConfigWdgImpl::triggerModeHoldRefresh, this,
             &VyTriggerConfigWidgetImpl::holdTriggerRefresh);
-    orderTabStops();
     m_stopContainer->setDevice(device);
+    orderTabStops();
     if (isVisible()) {
         reshow(); // bound late: what a show reads has not been read
     }
@@ -134,16 +134,18 @@ void VyTriggerConfigWidgetImpl::buildBlocks()
     m_stopBlock->setHidden(true);
 }
 
-/// Puts the stop block's own buttons behind the trigger rows, as they stand on the screen. Tab stops otherwise
-/// follow the order of construction, and the stop block was built first.
+/// Puts the rows and buttons behind each other as they stand on the screen. Tab stops otherwise follow the order of
+/// construction: the stop block was built before the trigger rows, and maybe the host's next widgets as well.
 void VyTriggerConfigWidgetImpl::orderTabStops()
 {
-    QWidget *last = m_triggerPage->findChildren<ParamPageWidgetItem *>().constLast();
-    const QList<QWidget *> buttons = m_stopBlock->findChildren<QWidget *>();
-    for (QWidget *button : buttons) {
-        if (button->focusPolicy() & Qt::TabFocus) {
-            KeyboardFocus::placeBehind(last, button);
-            last = button;
+    QWidget *last = nullptr;
+    const QList<QWidget *> parts = m_ui->scrollAreaWidgetContents->findChildren<QWidget *>();
+    for (QWidget *part : parts) {
+        if (part->focusPolicy() & Qt::TabFocus || qobject_cast<ParamPageWidgetItem *>(part)) {
+            if (last) {
+                KeyboardFocus::placeBehind(last, part);
+            }
+            last = part;
         }
     }
 }

@@ -22,6 +22,7 @@ void CLabel::setFullText(const QString &text)
 {
     m_fullText = text;
     setToolTip(text);
+    setAccessibleName(text);
     showElided();
 }
 

@@ -3,8 +3,8 @@
 #include <QLabel>
 #include <QString>
 
-/// A one-line label that cuts a text too wide for it at the right, with an ellipsis; the tool tip always
-/// holds the whole text.
+/// A one-line label that cuts a text too wide for it at the right, with an ellipsis; the tool tip and the
+/// accessible name always hold the whole text.
 class CLabel : public QLabel
 {
 public:

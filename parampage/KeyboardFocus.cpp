@@ -44,8 +44,10 @@ void KeyboardFocus::hideQuietly(QWidget *widget)
 
 void KeyboardFocus::placeBehind(QWidget *predecessor, QWidget *widget)
 {
-    const Qt::FocusPolicy policy = predecessor->focusPolicy();
+    const Qt::FocusPolicy policies[] = {predecessor->focusPolicy(), widget->focusPolicy()};
     predecessor->setFocusPolicy(Qt::TabFocus);
+    widget->setFocusPolicy(Qt::TabFocus);
     QWidget::setTabOrder(predecessor, widget);
-    predecessor->setFocusPolicy(policy);
+    predecessor->setFocusPolicy(policies[0]);
+    widget->setFocusPolicy(policies[1]);
 }

@@ -21,6 +21,6 @@ public:
     static void hideQuietly(QWidget *widget);
 
     /// Puts `widget` right behind `predecessor` in the tab order. Unlike QWidget::setTabOrder() this also takes
-    /// a predecessor that is no tab stop itself.
+    /// widgets that are no tab stops themselves.
     static void placeBehind(QWidget *predecessor, QWidget *widget);
 };

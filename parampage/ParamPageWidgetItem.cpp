@@ -11,6 +11,7 @@
 #include <VyCommonGUI/VyToggleSwitch.h>
 
 #include <QAbstractItemView>
+#include <QAccessible>
 #include <QCursor>
 #include <QHBoxLayout>
 #include <QPainter>
@@ -169,6 +170,15 @@ void ParamPageWidgetItem::setValidator(QValidator *validator)
     edit->setValidator(validator);
 }
 
+bool ParamPageWidgetItem::takeFocus()
+{
+    if (!m_editor) {
+        return false;
+    }
+    KeyboardFocus::giveBack(focusEditor());
+    return focusEditor()->hasFocus();
+}
+
 void ParamPageWidgetItem::enterEvent(QEvent *event)
 {
     m_background = m_hoverColor;
@@ -316,7 +326,7 @@ void ParamPageWidgetItem::readInt()
     auto *const spin = static_cast<VySpinBox *>(m_editor);
     const QSignalBlocker blocker(spin);
     setRange(spin, min, max == -1 ? std::numeric_limits<int>::max() : max, inc);
-    spin->setValue(value);
+    showValue(spin, value);
 }
 
 void ParamPageWidgetItem::readFloat()
@@ -333,7 +343,7 @@ void ParamPageWidgetItem::readFloat()
     // A limit that is no number is none: a spin box would take it for the value.
     using Limits = std::numeric_limits<float>;
     setRange(spin, std::isnan(min) ? Limits::lowest() : min, std::isnan(max) ? Limits::max() : max, inc);
-    spin->setValue(static_cast<double>(value));
+    showValue(spin, static_cast<double>(value));
     m_valueRead = value;
     m_textShown = spin->text();
 }
@@ -374,6 +384,18 @@ void ParamPageWidgetItem::setRange(Spin *spin, Number min, Number max, Number in
         spin->setMinimum(min);
         spin->setMaximum(max);
         spin->setSingleStep(inc);
+    }
+}
+
+/// Qt announces to assistive technology which value the user steps to, but none that is set.
+template <typename Spin, typename Number>
+void ParamPageWidgetItem::showValue(Spin *spin, Number value)
+{
+    const Number before = spin->value();
+    spin->setValue(value);
+    if (spin->value() < before || spin->value() > before) {
+        QAccessibleValueChangeEvent change(spin, spin->value());
+        QAccessible::updateAccessibility(&change);
     }
 }
 

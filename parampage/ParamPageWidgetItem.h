@@ -35,6 +35,8 @@ public:
     /// Restricts what can be typed into the editor of a string node; ignored for any other node and before the
     /// row was first shown. The validator is not owned.
     void setValidator(QValidator *validator);
+    /// Moves the keyboard focus to the editor, if that can take it. Returns whether it has it.
+    bool takeFocus();
 
 Q_SIGNALS:
     /// The node was written, or its command executed, whatever the device answered.
@@ -66,6 +68,8 @@ private:
     void readString();
     template <typename Spin, typename Number>
     void setRange(Spin *spin, Number min, Number max, Number inc);
+    template <typename Spin, typename Number>
+    static void showValue(Spin *spin, Number value);
     QWidget *focusEditor() const;
     template <typename Value>
     Value edited(const QString &shown, Value value) const;

@@ -16,6 +16,8 @@
 
 #include <QAccessible>
 #include <QPushButton>
+#include <QScrollArea>
+#include <QScrollBar>
 #include <QSet>
 #include <QVBoxLayout>
 #include <QtTest>
@@ -75,6 +77,18 @@ QStringList stopCommandRefresh(const QString &source)
         calls += ScriptedDevice::refreshOf(stopNode(number, source + "StopCMD"_s)) + ScriptedDevice::refreshOf(format);
     }
     return calls;
+}
+
+/// What assistive technology sees of a widget, and of a row: its editor.
+QAccessibleInterface *accessible(const QWidget *widget)
+{
+    return QAccessible::queryAccessibleInterface(const_cast<QWidget *>(widget));
+}
+QAccessibleInterface *accessible(const ParamPageWidgetItem *row)
+{
+    const auto parts = row->findChildren<QWidget *>();
+    const auto isEditor = [](const QWidget *part) { return part->focusPolicy() & Qt::TabFocus; };
+    return accessible(*std::find_if(parts.begin(), parts.end(), isEditor));
 }
 
 /// What stays of a text that is typed, character by character, where nothing was.
@@ -603,25 +617,201 @@ private Q_SLOTS:
         QVERIFY(m_device.writes().isEmpty());
     }
 
+    /// In a low window, from the host's editor before the panel to the one behind it, and back.
     void tabVisitsTheEditorsFromTopToBottom()
     {
+        m_host = std::make_unique<QWidget>();
+        auto *const layout = new QVBoxLayout(m_host.get());
+        QLineEdit *ends[] = {new QLineEdit(m_host.get()), nullptr};
+        layout->addWidget(ends[0]);
+        layout->addWidget(m_panel.get());
+        layout->addWidget(ends[1] = new QLineEdit(m_host.get())); // before the panel is bound
+        m_host->show();
         show("Hold", {3});
+        m_host->resize(600, 300);
         click(stopBlock(), "Add"); // page 2, between two that have their editors already
         QCoreApplication::processEvents();
-        find<VyBlockWidget>()->findChildren<QAbstractButton *>().first()->setFocus();
         const auto *const contents = m_panel->findChild<QWidget *>("scrollAreaWidgetContents"_s);
-        int last = -1;
-        int stops = 0;
-        QWidget *const first = QApplication::focusWidget();
-        do {
-            const QWidget *const focused = QApplication::focusWidget();
-            const int here = focused->mapTo(contents, QPoint(0, 0)).y();
-            QVERIFY2(here >= last, qPrintable(focused->accessibleName()));
-            last = here;
-            ++stops;
-            QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
-        } while (QApplication::focusWidget() != first && stops < 1000);
-        QVERIFY2(stops > 35 + 3 * 26, qPrintable(QString::number(stops)));
+        for (const bool forward : {true, false}) {
+            ends[forward ? 0 : 1]->setFocus();
+            QScrollBar *const bar = m_panel->findChild<QScrollArea *>()->verticalScrollBar();
+            bar->setValue(forward ? bar->maximum() : 0); // the first stop is out of sight
+            int last = forward ? -1 : 100000;
+            int stops = 0;
+            for (;; ++stops) {
+                QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab, forward ? Qt::NoModifier : Qt::ShiftModifier);
+                const QWidget *const focused = QApplication::focusWidget();
+                if (!m_panel->isAncestorOf(focused)) {
+                    break;
+                }
+                const QByteArray name = accessible(focused)->text(QAccessible::Name).toUtf8();
+                const int here = focused->mapTo(contents, QPoint(0, 0)).y();
+                QVERIFY2(forward ? here >= last : here <= last, name.constData());
+                QVERIFY2(focused->visibleRegion().boundingRect() == focused->rect(), name.constData());
+                last = here;
+            }
+            QCOMPARE(QApplication::focusWidget(), ends[forward ? 1 : 0]);
+            QVERIFY2(stops > 35 + 3 * 26, qPrintable(QString::number(stops)));
+        }
+    }
+
+    void theFocusIsSeen()
+    {
+        const QString before = QApplication::style()->objectName();
+        const auto restore = qScopeGuard([before] { QApplication::setStyle(before); });
+        QApplication::setCursorFlashTime(0);
+        show("Hold", {2});
+        for (const char *style : {"Fusion", "Windows"}) {
+            QApplication::setStyle(QString::fromLatin1(style));
+            QSet<QByteArray> kinds;
+            for (int stop = 0; stop < 60; ++stop) {
+                QTest::keyClick(m_panel.get(), Qt::Key_Tab);
+                QWidget *const focused = QApplication::focusWidget();
+                const QImage with = focused->grab().toImage();
+                QTest::keyClick(focused, Qt::Key_Tab);
+                const QImage without = focused->grab().toImage();
+                QTest::keyClick(QApplication::focusWidget(), Qt::Key_Backtab, Qt::ShiftModifier);
+                int different = 0;
+                for (int i = 0; i < with.width() * with.height(); ++i) {
+                    const QPoint at(i % with.width(), i / with.width());
+                    different += with.pixel(at) != without.pixel(at) ? 1 : 0;
+                }
+                const QByteArray kind = focused->metaObject()->className();
+                QVERIFY2(different > 100, kind + ' ' + style);
+                kinds.insert(kind);
+            }
+            QCOMPARE(kinds.size(), 8);
+        }
+    }
+
+    void aSecondSpaceDeletesNoSecondPage()
+    {
+        show("Hold", {2, 3, 4, 5});
+        QVector<int> left = AllPages;
+        for (const auto &[number, above] : {std::pair(5, 4), std::pair(3, 1), std::pair(4, 1)}) {
+            const auto buttons = title(number)->findChildren<QAbstractButton *>();
+            const auto isShown = [](const QAbstractButton *button) { return button->isVisible(); };
+            (*std::find_if(buttons.begin(), buttons.end(), isShown))->setFocus();
+            QTest::keyClick(QApplication::focusWidget(), Qt::Key_Space);
+            left.removeOne(number);
+            QCOMPARE(shownPages(), left);
+            QCOMPARE(QApplication::focusWidget(), accessible(row(page(above), stopNode(above, "Condtion"_s)))->object());
+            m_device.node("TriggerStopConfig2Condtion").mode = RuvoNodeReadOnly; // passed over from now on
+            page(2)->updateWidget();
+        }
+    }
+
+    void everyEditorIsNamedAsItsRow()
+    {
+        const QHash<int, QAccessible::Role> roles{
+            {RuvoNodeBoolean, QAccessible::CheckBox}, {RuvoNodeInteger, QAccessible::SpinBox},
+            {RuvoNodeFloat, QAccessible::SpinBox}, {RuvoNodeEnumeration, QAccessible::ComboBox},
+            {RuvoNodeCommand, QAccessible::Button}, {RuvoNodeString, QAccessible::EditableText}};
+        m_device.node("TriggerUdpPort").mode = RuvoNodeReadOnly;
+        m_device.node("TriggerAutoInterval").mode = RuvoNodeNotAvailable;
+        for (const int number : AllPages) { // as a device does, which shows the rows of one source
+            for (const char *source : {"TcpClient", "Udp", "SerialPort"}) {
+                for (const char *name : {"CMDFuzzyMatch", "CMDFormat", "StopCMD"}) {
+                    const QString node = stopNode(number, QString::fromLatin1(source) + QString::fromLatin1(name));
+                    m_device.node(node).mode = RuvoNodeNotAvailable;
+                }
+            }
+        }
+        show("Hold", {2, 3, 4, 5});
+        m_panel->resize(200, 300); // labels are cut
+        QCoreApplication::processEvents();
+        QSet<QString> known;
+        int cut = 0;
+        for (const auto *parameter : m_panel->findChildren<ParamPageWidgetItem *>()) {
+            const ScriptedDevice::Node &node = m_device.node(parameter->objectName());
+            const auto *const label = parameter->findChild<QLabel *>();
+            QAccessibleInterface *const editor = accessible(parameter);
+            const QString name = editor->text(QAccessible::Name);
+            const QByteArray about = parameter->objectName().toUtf8() + ": " + name.toUtf8();
+            QVERIFY2(name == label->toolTip() && accessible(label)->text(QAccessible::Name) == name, about.constData());
+            cut += label->text() != name ? 1 : 0;
+            const QAccessible::State state = editor->state();
+            QVERIFY2(editor->role() == roles.value(node.type), about.constData());
+            QVERIFY2(state.invisible == (node.mode == RuvoNodeNotAvailable), about.constData());
+            QVERIFY2(state.disabled == (node.mode == RuvoNodeReadOnly), about.constData());
+            QVERIFY2(state.focusable || state.disabled, about.constData());
+            if (state.invisible) {
+                continue;
+            }
+            const int before = known.size();
+            known.insert(name + u'\n' + editor->text(QAccessible::Description));
+            QVERIFY2(known.size() == before + 1, about.constData());
+            const QString value = editor->text(QAccessible::Value);
+            if (auto *const number = editor->valueInterface()) {
+                QCOMPARE(number->currentValue().toString(), node.value.toString());
+                QCOMPARE(number->minimumValue().toDouble(), node.min);
+                QCOMPARE(number->maximumValue().toDouble(), node.max);
+                QCOMPARE(number->minimumStepSize().toDouble(), node.inc);
+                QCOMPARE(editor->textInterface()->text(0, 100), value);
+            } else if (node.type == RuvoNodeEnumeration) {
+                QCOMPARE(value, node.value.toString());
+                QCOMPARE(editor->textInterface()->text(0, 100), value);
+                QCOMPARE(editor->child(0)->childCount(), node.entries.size());
+            }
+        }
+        QVERIFY(cut > 20);
+        for (const auto *button : m_panel->findChildren<QAbstractButton *>()) {
+            const QString name = accessible(button)->text(QAccessible::Name);
+            QVERIFY(!button->isVisible() || !name.isEmpty());
+            QVERIFY(name != accessible(button)->text(QAccessible::Description)); // which would be read twice
+        }
+    }
+
+    /// What is done without a key is a finished edit: written once, at once.
+    void assistiveTechnologyEdits()
+    {
+        show("Hold", {2});
+        const auto act = [](const QString &name) {
+            return [name](QAccessibleInterface *editor) { editor->actionInterface()->doAction(name); };
+        };
+        const auto set = [](const QVariant &value) {
+            return [value](QAccessibleInterface *editor) { editor->valueInterface()->setCurrentValue(value); };
+        };
+        const auto choose = [](int entry) {
+            return [entry](QAccessibleInterface *editor) {
+                editor->child(0)->child(entry)->actionInterface()->doAction(QAccessibleActionInterface::toggleAction());
+                QCoreApplication::processEvents();
+            };
+        };
+        const struct { const char *node; std::function<void(QAccessibleInterface *)> act; const char *value; } rows[] = {
+            {"InputKeyTrigger", act(QAccessibleActionInterface::toggleAction()), "true"},
+            {Port, set(9), "9"},
+            {Port, act(QAccessibleActionInterface::increaseAction()), "10"},
+            {"TriggerUdpPort", act(QAccessibleActionInterface::decreaseAction()), "6"},
+            {"InputTriggerDelay", set(2.5), "2.5"},
+            {"TriggerUdpCMDFormat", choose(1), "Hex"},
+            {"TriggerUdpCMDFormat", choose(0), "String"},
+            {"TriggerStopConfig1Condtion", choose(1), "Second"},
+        };
+        for (const bool locked : {false, true}) {
+            lock(locked);
+            grab(&m_device, 0);
+            for (const auto &entry : rows) {
+                m_device.takeCalls();
+                entry.act(accessible(row(m_panel.get(), QString::fromLatin1(entry.node))));
+                const auto expected = "set %1=%2"_s.arg(QLatin1String(entry.node), QLatin1String(entry.value));
+                QCOMPARE(m_device.writes(), locked ? QStringList() : QStringList(expected));
+            }
+        }
+        lock(false);
+        grab(&m_device, 0);
+        m_device.takeCalls();
+        accessible(row(m_panel.get(), "InputSoftwareTrigger"_s))->actionInterface()->doAction(
+            QAccessibleActionInterface::pressAction());
+        QTRY_COMPARE(m_device.writes(), QStringList("run InputSoftwareTrigger"_s));
+
+        // In an open list, too.
+        QAccessibleInterface *const mode = accessible(row(m_panel.get(), "InputTriggerMode"_s));
+        mode->actionInterface()->doAction(QAccessibleActionInterface::showMenuAction());
+        QVERIFY(mode->state().expanded);
+        choose(2)(mode);
+        QVERIFY(!mode->state().expanded);
+        QCOMPARE(mode->text(QAccessible::Value), "Once"_s);
     }
 
     void languageChange()

@@ -117,6 +117,11 @@ void TriggerStopConfigWdg::deleteStopConfig()
     DeviceAccess::service()->setParamBool(device(), enableNode(m_number), false);
     // This page hears it too: its own condition row is refreshed like everybody's.
     DeviceEvents::post(m_conditionSubscription->getEventName(), DeviceEvents::payload(device()));
+    // The next tab stop would be the next page's delete button: Space pressed twice would delete two pages.
+    const QPointer<QWidget> focused = KeyboardFocus::giveUp(this);
+    if (focused && !focusPageAbove()) {
+        KeyboardFocus::giveBack(focused);
+    }
     KeyboardFocus::hideQuietly(this); // an editor that loses the focus must not write to what is now off
 }
 
@@ -230,6 +235,14 @@ void TriggerStopConfigWdg::buildRows()
             break;
         }
     }
+}
+
+/// Moves the focus to the condition of the nearest page that is shown above. Returns whether there is one.
+bool TriggerStopConfigWdg::focusPageAbove()
+{
+    const auto pages = parent()->findChildren<TriggerStopConfigWdg *>(QString(), Qt::FindDirectChildrenOnly);
+    return std::any_of(pages.crend() - (m_number - 1), pages.crend(),
+                       [](const TriggerStopConfigWdg *page) { return page->m_conditionRow->takeFocus(); });
 }
 
 void TriggerStopConfigWdg::showTitle()

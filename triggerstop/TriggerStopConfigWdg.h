@@ -56,6 +56,7 @@ private:
     void buildTitle();
     void buildRows();
     void showTitle();
+    bool focusPageAbove();
     QString nodeName(const char *nodeTemplate) const;
     void updateCMDFormat(CommandSource source);
     void onCMDFormatEvent(CommandSource source, const QVariantMap &payload);

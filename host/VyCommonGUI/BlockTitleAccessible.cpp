@@ -10,7 +10,14 @@ BlockTitleAccessible::BlockTitleAccessible(BlockTitleBar *bar)
 
 QString BlockTitleAccessible::text(QAccessible::Text kind) const
 {
-    return kind == QAccessible::Name ? bar()->title() : QAccessibleWidget::text(kind);
+    switch (kind) {
+    case QAccessible::Name:
+        return bar()->title();
+    case QAccessible::Description:
+        return bar()->accessibleDescription(); // not the tool tip, which is the title once more
+    default:
+        return QAccessibleWidget::text(kind);
+    }
 }
 
 QAccessible::State BlockTitleAccessible::state() const

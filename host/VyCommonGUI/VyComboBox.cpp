@@ -1,5 +1,7 @@
 #include "VyComboBox.h"
 
+#include "AccessibleFactory.h"
+#include "ComboBoxAccessible.h"
 #include "WheelGuard.h"
 
 #include <QAbstractItemView>
@@ -15,6 +17,12 @@ namespace {
 constexpr int kShortestContents = 8; // characters
 constexpr int kLongestMeasured = 40; // characters of an entry that may set the preferred width
 constexpr int kLongestShown = 1000;  // characters of the current entry: with a million a paint takes long
+
+QAccessibleInterface *createAccessible(const QString &, QObject *object)
+{
+    auto *const box = qobject_cast<VyComboBox *>(object);
+    return box ? new ComboBoxAccessible(box) : nullptr;
+}
 
 } // namespace
 
@@ -34,6 +42,7 @@ public:
 VyComboBox::VyComboBox(QWidget *parent)
     : QComboBox(parent)
 {
+    static const AccessibleFactory factory(createAccessible);
     static ClosedBox painter; // one for all boxes
     installEventFilter(&painter);
     WheelGuard::guard(this, WheelGuard::Pass::Never);
@@ -93,6 +102,23 @@ void VyComboBox::paintClosed()
     QStylePainter painter(this);
     painter.drawComplexControl(QStyle::CC_ComboBox, option);
     painter.drawControl(QStyle::CE_ComboBoxLabel, option);
+}
+
+QAbstractItemView *VyComboBox::openList() const
+{
+    auto *const list = findChild<QAbstractItemView *>();
+    return list && list->isVisible() ? list : nullptr;
+}
+
+/// Takes over what was selected in the list, open or not, but by neither key nor pointer: these move to what they
+/// select, and choose later.
+void VyComboBox::chooseSelected()
+{
+    const QModelIndexList selected = view()->selectionModel()->selectedIndexes();
+    if (isEnabled() && selected.size() == 1 && selected.first() != view()->currentIndex()) {
+        hidePopup();
+        setCurrentIndex(selected.first().row());
+    }
 }
 
 } // namespace VyViewer

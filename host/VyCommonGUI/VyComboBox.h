@@ -4,6 +4,8 @@
 
 #include <QComboBox>
 
+class QAbstractItemView;
+
 namespace VyViewer {
 
 /// A combo box that the wheel never changes while its list is closed.
@@ -19,8 +21,11 @@ protected:
     void hidePopup() override;
 
 private:
+    friend class ComboBoxAccessible;
     class ClosedBox;
     void paintClosed();
+    QAbstractItemView *openList() const;
+    void chooseSelected();
 };
 
 } // namespace VyViewer

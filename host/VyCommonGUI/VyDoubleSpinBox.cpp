@@ -1,5 +1,7 @@
 #include "VyDoubleSpinBox.h"
 
+#include "AccessibleFactory.h"
+#include "SpinBoxAccessible.h"
 #include "SpinBoxMenu.h"
 #include "WheelGuard.h"
 
@@ -41,6 +43,7 @@ int neededDecimals(double value, int most)
 VyDoubleSpinBox::VyDoubleSpinBox(QWidget *parent)
     : QDoubleSpinBox(parent)
 {
+    static const AccessibleFactory factory(SpinBoxAccessible::create); // before anything is announced
     setDecimals(kFewestDecimals);
     WheelGuard::guard(this, WheelGuard::Pass::WhenFocused);
 }

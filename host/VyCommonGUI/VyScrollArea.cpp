@@ -1,5 +1,7 @@
 #include "VyScrollArea.h"
 
+#include <QApplication>
+
 namespace VyViewer {
 
 VyScrollArea::VyScrollArea(QWidget *parent)
@@ -10,6 +12,14 @@ VyScrollArea::VyScrollArea(QWidget *parent)
     setFocusPolicy(Qt::ClickFocus);
     // Always there, so that contents which outgrow the area at a click do not move away from under the pointer.
     setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOn);
+    // Qt brings into view what Tab reaches from within, but not what it reaches from outside, or what a program focuses.
+    // Nothing moves under the pointer that presses, nor under the one that is about to: old is null in a window that
+    // is activated.
+    connect(qApp, &QApplication::focusChanged, this, [this](QWidget *old, QWidget *now) {
+        if (old && now && QGuiApplication::mouseButtons() == Qt::NoButton && widget() && widget()->isAncestorOf(now)) {
+            ensureWidgetVisible(now);
+        }
+    });
 }
 
 VyScrollArea::~VyScrollArea() = default;

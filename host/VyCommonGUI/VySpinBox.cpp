@@ -1,5 +1,7 @@
 #include "VySpinBox.h"
 
+#include "AccessibleFactory.h"
+#include "SpinBoxAccessible.h"
 #include "SpinBoxMenu.h"
 #include "WheelGuard.h"
 
@@ -8,6 +10,7 @@ namespace VyViewer {
 VySpinBox::VySpinBox(QWidget *parent)
     : QSpinBox(parent)
 {
+    static const AccessibleFactory factory(SpinBoxAccessible::create);
     WheelGuard::guard(this, WheelGuard::Pass::WhenFocused);
 }
 
