@@ -47,5 +47,8 @@ void CLabel::showElided()
     if (elided.isEmpty()) {
         elided = fontMetrics().elidedText(m_fullText, Qt::ElideRight, width() - kRightMargin);
     }
+    // Where the row begins. Left to itself a label goes by the direction of its text.
+    const bool isMirrored = layoutDirection() == Qt::RightToLeft;
+    setAlignment((isMirrored ? Qt::AlignRight : Qt::AlignLeft) | Qt::AlignAbsolute | Qt::AlignVCenter);
     setText(elided);
 }

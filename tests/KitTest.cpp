@@ -160,6 +160,10 @@ private Q_SLOTS:
         QTest::keyClick(box.view(), Qt::Key_Return);
         QVERIFY(!list->isVisible());
         QCOMPARE(box.currentIndex(), 1);
+        QHelpEvent help(QEvent::ToolTip, {}, box.mapToGlobal(QPoint()));
+        QCoreApplication::sendEvent(&box, &help);
+        QCOMPARE(QToolTip::text(), box.currentText()); // which is cut in the closed box
+        QToolTip::hideText();
 
         VyComboBox closed(nullptr);
         closed.addItems({"Off"_s, "On"_s});
@@ -242,6 +246,14 @@ private Q_SLOTS:
             QVERIFY(contrast(colors.color(QPalette::PlaceholderText), colors.color(QPalette::Base)) > 3);
             QVERIFY(contrast(colors.color(QPalette::Disabled, QPalette::Text), Qt::white) > 3);
             QCOMPARE(colors.color(QPalette::Highlight), QColor(200, 40, 40));
+        }
+        dark.setColor(QPalette::Highlight, Qt::cyan); // as in a palette of high contrast
+        dark.setColor(QPalette::HighlightedText, Qt::black);
+        QApplication::setPalette(dark);
+        for (const QWidget *widget : widgets) {
+            const QColor accent = widget->palette().color(QPalette::Highlight);
+            QVERIFY(accent.hue() == 180 && contrast(accent, Qt::white) > 4.4);
+            QVERIFY(contrast(accent, widget->palette().color(QPalette::HighlightedText)) > 4.4);
         }
     }
 

@@ -83,6 +83,8 @@ void BlockTitleBar::paintEvent(QPaintEvent *)
     painter.setPen(strokePen());
     const QRect chevron(kMargin, 0, m_addButton->sizeHint().width(), height());
     paintChevron(painter, QStyle::visualRect(layoutDirection(), rect(), chevron));
+    // An ellipsis stands at the end of what is read, which has a direction of its own.
+    painter.setLayoutDirection(m_title.isRightToLeft() ? Qt::RightToLeft : Qt::LeftToRight);
     painter.drawText(QStyle::visualRect(layoutDirection(), rect(), titleRect()),
                      int(QStyle::visualAlignment(layoutDirection(), Qt::AlignLeft | Qt::AlignVCenter)), shownTitle());
 }

@@ -1,7 +1,9 @@
 #include "LightGround.h"
 
+#include "KitPaint.h"
+
 #include <QChildEvent>
-#include <QCoreApplication>
+#include <QGuiApplication>
 #include <QLabel>
 #include <QWidget>
 
@@ -17,9 +19,11 @@ QPalette lightPalette()
         QRgb enabled;
         QRgb disabled;
     };
+    // A style paints frames in what it makes of Window, or in Dark, Light and the like: on white, each has to be seen. Where
+    // it is disabled, Light is the shadow of texts, and that has not.
     // clang-format off
     static constexpr Shade kShades[] = {
-        {QPalette::Window, 0xffffffff, 0xffffffff},
+        {QPalette::Window, 0xffc9cdd1, 0xffd6d9dc},
         {QPalette::WindowText, 0xff202326, 0xff6b7075},
         {QPalette::Base, 0xffffffff, 0xfff5f6f7},
         {QPalette::AlternateBase, 0xfff1f3f5, 0xfff1f3f5},
@@ -30,10 +34,10 @@ QPalette lightPalette()
         {QPalette::BrightText, 0xffffffff, 0xffffffff},
         {QPalette::ToolTipBase, 0xffffffff, 0xffffffff},
         {QPalette::ToolTipText, 0xff202326, 0xff202326},
-        {QPalette::Light, 0xffffffff, 0xffffffff},
+        {QPalette::Light, 0xff8a9096, 0xffffffff},
         {QPalette::Midlight, 0xffe6e9ec, 0xffe6e9ec},
         {QPalette::Mid, 0xffc3c8cd, 0xffc3c8cd},
-        {QPalette::Dark, 0xff9ba1a7, 0xffb5babf},
+        {QPalette::Dark, 0xff8a9096, 0xffb5babf},
         {QPalette::Shadow, 0xff73787d, 0xff9ba1a7},
     };
     // clang-format on
@@ -42,6 +46,16 @@ QPalette lightPalette()
         palette.setColor(QPalette::Active, shade.role, shade.enabled);
         palette.setColor(QPalette::Inactive, shade.role, shade.enabled);
         palette.setColor(QPalette::Disabled, shade.role, shade.disabled);
+    }
+    QColor accent = palette.color(QPalette::Active, QPalette::Highlight);
+    if (KitPaint::contrast(accent, Qt::white) < 3) {
+        while (KitPaint::contrast(accent, Qt::white) < 4.5) {
+            accent = accent.darker(110);
+        }
+        for (const QPalette::ColorGroup group : {QPalette::Active, QPalette::Inactive}) {
+            palette.setColor(group, QPalette::Highlight, accent);
+            palette.setColor(group, QPalette::HighlightedText, Qt::white);
+        }
     }
     return palette;
 }
@@ -53,6 +67,10 @@ LightGround::LightGround(QWidget *widget)
     , m_palette(lightPalette())
 {
     adopt(widget);
+    connect(qApp, &QGuiApplication::paletteChanged, this, [this, widget] {
+        m_palette = lightPalette();
+        adopt(widget);
+    });
 }
 
 LightGround::~LightGround() = default;

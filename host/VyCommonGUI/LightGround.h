@@ -8,7 +8,8 @@ class QWidget;
 namespace VyViewer {
 
 /// Gives a widget and everything in it, also what comes later, colours that are made for a white ground,
-/// whatever the application's palette. The colours of selections and links stay the application's.
+/// whatever the application's palette. The colours of selections and links stay the application's,
+/// the former in a darker shade where they would be lost on white.
 ///
 /// Qt has palettes inherited only where there is no style sheet above; here they are everywhere.
 class LightGround : public QObject
@@ -24,7 +25,7 @@ public:
 private:
     void adopt(QWidget *widget);
 
-    const QPalette m_palette;
+    QPalette m_palette;
 };
 
 } // namespace VyViewer

@@ -20,6 +20,7 @@ VyBlockWidget::VyBlockWidget(QWidget *parent)
     , m_body(new QWidget(this))
 {
     setAutoFillBackground(true);
+    setBackgroundRole(QPalette::BrightText); // white, also while it is disabled
     setFrameShape(QFrame::StyledPanel);
     setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Maximum);
     (new QVBoxLayout(m_body))->setContentsMargins(kMargin, kMargin, kMargin, kMargin);

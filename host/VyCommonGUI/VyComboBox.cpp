@@ -2,13 +2,15 @@
 
 #include "AccessibleFactory.h"
 #include "ComboBoxAccessible.h"
+#include "KitPaint.h"
 #include "WheelGuard.h"
 
 #include <QAbstractItemView>
-#include <QEvent>
+#include <QHelpEvent>
 #include <QScreen>
 #include <QStyle>
 #include <QStylePainter>
+#include <QToolTip>
 
 namespace VyViewer {
 
@@ -26,7 +28,7 @@ QAccessibleInterface *createAccessible(const QString &, QObject *object)
 
 } // namespace
 
-/// Paints combo boxes in place of their own paint event.
+/// Paints combo boxes in place of their own paint event, and tells the whole of an entry that is cut.
 class VyComboBox::ClosedBox : public QObject
 {
 public:
@@ -34,6 +36,8 @@ public:
     {
         if (event->type() == QEvent::Paint) {
             static_cast<VyComboBox *>(watched)->paintClosed();
+        } else if (event->type() == QEvent::ToolTip) {
+            return static_cast<VyComboBox *>(watched)->tellCutEntry(static_cast<QHelpEvent *>(event)->globalPos());
         }
         return event->type() == QEvent::Paint;
     }
@@ -50,6 +54,7 @@ VyComboBox::VyComboBox(QWidget *parent)
     // One long entry must not widen everything around the closed box. The policy that says so has the list built, which
     // most boxes never open: not before there is such an entry.
     setMinimumContentsLength(kShortestContents);
+    setMinimumWidth(KitPaint::kNarrowestEditor);
     connect(model(), &QAbstractItemModel::rowsInserted, this, [this](const QModelIndex &, int first, int last) {
         for (int row = first; row <= last; ++row) {
             if (itemText(row).size() > kLongestMeasured) {
@@ -69,8 +74,10 @@ void VyComboBox::showPopup()
     QWidget *const popup = view()->window();
     QPalette colors = palette();
     colors.resolve(~0u); // every colour: as a window of its own the list would take the application's
+    colors.setBrush(QPalette::Window, colors.base()); // the ground where a style shows the list as a menu
     popup->setPalette(colors);
     view()->setPalette(colors);
+    view()->viewport()->setPalette(colors); // below a style sheet it inherits nothing
     const int frame = popup->width() - popup->contentsRect().width();
     const int needed = view()->sizeHintForColumn(modelColumn()) + 2 * view()->frameWidth()
         + style()->pixelMetric(QStyle::PM_ScrollBarExtent, nullptr, view());
@@ -86,11 +93,31 @@ void VyComboBox::hidePopup()
     }
 }
 
-/// The current entry in one line and, where it is cut, with an ellipsis.
 void VyComboBox::paintClosed()
 {
     QStyleOptionComboBox option;
     initStyleOption(&option);
+    option.currentText = shownEntry(option);
+    QStylePainter painter(this);
+    painter.drawComplexControl(QStyle::CC_ComboBox, option);
+    painter.setLayoutDirection(option.currentText.isRightToLeft() ? Qt::RightToLeft : Qt::LeftToRight);
+    painter.drawControl(QStyle::CE_ComboBoxLabel, option);
+}
+
+bool VyComboBox::tellCutEntry(const QPoint &place)
+{
+    QStyleOptionComboBox option;
+    initStyleOption(&option);
+    if (!toolTip().isEmpty() || shownEntry(option) == option.currentText) {
+        return false;
+    }
+    QToolTip::showText(place, option.currentText.left(kLongestShown), this);
+    return true;
+}
+
+/// The current entry in one line and, where it is cut, with an ellipsis.
+QString VyComboBox::shownEntry(const QStyleOptionComboBox &option) const
+{
     QString text = option.currentText.left(kLongestShown);
     for (const QChar end : {QChar(QChar::LineFeed), QChar(QChar::CarriageReturn), QChar(QChar::LineSeparator),
                             QChar(QChar::ParagraphSeparator)}) {
@@ -98,10 +125,7 @@ void VyComboBox::paintClosed()
     }
     const QRect room = style()->subControlRect(QStyle::CC_ComboBox, &option, QStyle::SC_ComboBoxEditField, this);
     // Less the pixel that a style keeps free at each end.
-    option.currentText = fontMetrics().elidedText(text, Qt::ElideRight, room.width() - 2);
-    QStylePainter painter(this);
-    painter.drawComplexControl(QStyle::CC_ComboBox, option);
-    painter.drawControl(QStyle::CE_ComboBoxLabel, option);
+    return fontMetrics().elidedText(text, Qt::ElideRight, room.width() - 2);
 }
 
 QAbstractItemView *VyComboBox::openList() const

@@ -26,6 +26,8 @@ private:
     void paintClosed();
     QAbstractItemView *openList() const;
     void chooseSelected();
+    bool tellCutEntry(const QPoint &place);
+    QString shownEntry(const QStyleOptionComboBox &option) const;
 };
 
 } // namespace VyViewer

@@ -1,6 +1,7 @@
 #include "VyDoubleSpinBox.h"
 
 #include "AccessibleFactory.h"
+#include "KitPaint.h"
 #include "SpinBoxAccessible.h"
 #include "SpinBoxMenu.h"
 #include "WheelGuard.h"
@@ -45,6 +46,7 @@ VyDoubleSpinBox::VyDoubleSpinBox(QWidget *parent)
 {
     static const AccessibleFactory factory(SpinBoxAccessible::create); // before anything is announced
     setDecimals(kFewestDecimals);
+    setMinimumWidth(KitPaint::kNarrowestEditor);
     WheelGuard::guard(this, WheelGuard::Pass::WhenFocused);
 }
 

@@ -8,6 +8,12 @@
 
 namespace VyViewer {
 
+namespace {
+
+constexpr int kAbove = 6; // sets a section apart from the rows before it
+
+} // namespace
+
 VyMultiCheckTitleWidget::VyMultiCheckTitleWidget(QWidget *parent)
     : QWidget(parent)
     , m_checkBox(new QCheckBox(this))
@@ -20,12 +26,15 @@ VyMultiCheckTitleWidget::VyMultiCheckTitleWidget(QWidget *parent)
     m_label->setTextFormat(Qt::PlainText);
     m_checkBox->setFocusPolicy(Qt::StrongFocus);
     auto *const layout = new QHBoxLayout(this);
-    layout->setContentsMargins(0, 0, 0, 0);
+    layout->setContentsMargins(0, kAbove, 0, 0);
     layout->addWidget(m_checkBox);
     layout->addWidget(m_label);
     layout->addStretch();
     layout->addWidget(m_deleteButton);
     setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
+    QSizePolicy keepsRoom = m_deleteButton->sizePolicy(); // titles are of one height, with it and without
+    keepsRoom.setRetainSizeWhenHidden(true);
+    m_deleteButton->setSizePolicy(keepsRoom);
     connect(m_deleteButton, &GlyphButton::clicked, this, &VyMultiCheckTitleWidget::deleteButtonClicked);
     connect(m_deleteButton, &GlyphButton::languageChanged, this, &VyMultiCheckTitleWidget::retranslate);
     retranslate();

@@ -1,6 +1,7 @@
 #include "VySpinBox.h"
 
 #include "AccessibleFactory.h"
+#include "KitPaint.h"
 #include "SpinBoxAccessible.h"
 #include "SpinBoxMenu.h"
 #include "WheelGuard.h"
@@ -11,6 +12,7 @@ VySpinBox::VySpinBox(QWidget *parent)
     : QSpinBox(parent)
 {
     static const AccessibleFactory factory(SpinBoxAccessible::create);
+    setMinimumWidth(KitPaint::kNarrowestEditor);
     WheelGuard::guard(this, WheelGuard::Pass::WhenFocused);
 }
 

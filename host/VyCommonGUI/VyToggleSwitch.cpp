@@ -151,8 +151,8 @@ void VyToggleSwitch::paint(QPainter &painter) const
 {
     painter.setRenderHint(QPainter::Antialiasing);
     const QPalette colors = palette();
-    const QColor &ground = colors.color(QPalette::Window);
-    const QColor ink = KitPaint::blend(ground, colors.color(QPalette::WindowText), isEnabled() ? 0.6 : 0.4);
+    const QColor &ground = colors.color(QPalette::Base);
+    const QColor ink = KitPaint::blend(ground, colors.color(QPalette::WindowText), 0.6);
     const QColor accent = isEnabled() ? colors.color(QPalette::Highlight) : ink;
     const qreal strength = !isEnabled() ? 0 : m_pressed ? 0.2 : underMouse() ? 0.1 : 0;
 
