@@ -37,7 +37,8 @@ int main(int argc, char *argv[])
         if (argc != (isKept ? 3 : 2) || !QDir().mkpath(folder)) {
             throw QStringLiteral("no folder to write to");
         }
-        for (const Picture &picture : Picture::here()) {
+        const QVector<Picture> pictures = Picture::here();
+        for (const Picture &picture : pictures) {
             Scene scene(picture);
             const QString file = QStringLiteral("%1/%2.png").arg(folder, QLatin1String(picture.name));
             if (!(isKept ? Sketch(scene).save(file) : scene.grab().save(file))) {

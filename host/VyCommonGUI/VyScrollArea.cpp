@@ -1,6 +1,9 @@
 #include "VyScrollArea.h"
 
+#include "LightGround.h"
+
 #include <QApplication>
+#include <QScrollBar>
 
 namespace VyViewer {
 
@@ -12,6 +15,10 @@ VyScrollArea::VyScrollArea(QWidget *parent)
     setFocusPolicy(Qt::ClickFocus);
     // Always there, so that contents which outgrow the area at a click do not move away from under the pointer.
     setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOn);
+    // Under a palette with a black window the handle would be black on black.
+    for (QScrollBar *bar : {verticalScrollBar(), horizontalScrollBar()}) {
+        new LightGround(bar);
+    }
     // Qt brings into view what Tab reaches from within, but not what it reaches from outside, or what a program focuses.
     // Nothing moves under the pointer that presses, nor under the one that is about to: old is null in a window that
     // is activated.
