@@ -6,6 +6,7 @@
 #include <QAction>
 #include <QApplication>
 #include <QComboBox>
+#include <QDockWidget>
 #include <QDoubleSpinBox>
 #include <QLabel>
 #include <QListWidget>
@@ -262,6 +263,27 @@ private Q_SLOTS:
         QCOMPARE(tabs->tabText(0).count("&&"_s), 4);
         QVERIFY2(m_window->windowHandle()->title().startsWith(text), qPrintable(m_window->windowHandle()->title()));
         QSettings().clear();
+    }
+
+    void tabStopsAreSeen()
+    {
+        open({});
+        m_window->activateWindow();
+        QVERIFY(QTest::qWaitForWindowActive(m_window.get()));
+        for (const char *docks : {"none", "traffic"}) {
+            for (auto *dock : m_window->findChildren<QDockWidget *>()) {
+                dock->setVisible(dock->objectName().startsWith(QLatin1String(docks)));
+            }
+            QCoreApplication::processEvents();
+            QSet<QWidget *> stops;
+            for (int i = 0; i < 40; ++i) {
+                QTest::keyClick(m_window.get(), Qt::Key_Tab);
+                QWidget *const stop = QApplication::focusWidget();
+                QVERIFY2(stop && !stop->visibleRegion().isEmpty(), stop ? stop->metaObject()->className() : "none");
+                stops.insert(stop);
+            }
+            QVERIFY(stops.size() > 5);
+        }
     }
 
     void closingReleasesTheCamera()

@@ -152,6 +152,12 @@ void MainWindow::fitToPanel()
 
 bool MainWindow::event(QEvent *event)
 {
+    // Qt's bar for docks one behind the other would be a stop for Tab even while none of them is shown.
+    if (event->type() == QEvent::ChildPolished) {
+        if (auto *const bar = qobject_cast<QTabBar *>(static_cast<QChildEvent *>(event)->child())) {
+            bar->setFocusPolicy(Qt::NoFocus);
+        }
+    }
     // No action has a status tip, but the empty one would wipe away the message when the mouse passes a button.
     return event->type() == QEvent::StatusTip || QMainWindow::event(event);
 }
