@@ -153,8 +153,9 @@ void MainWindow::fitToPanel()
 bool MainWindow::event(QEvent *event)
 {
     // Qt's bar for docks one behind the other would be a stop for Tab even while none of them is shown.
-    if (event->type() == QEvent::ChildPolished) {
-        if (auto *const bar = qobject_cast<QTabBar *>(static_cast<QChildEvent *>(event)->child())) {
+    if (event->type() == QEvent::ChildPolished) { // complete by then
+        QObject *const polished = static_cast<QChildEvent *>(event)->child();
+        if (auto *const bar = qobject_cast<QTabBar *>(polished)) { // clazy:exclude=child-event-qobject-cast
             bar->setFocusPolicy(Qt::NoFocus);
         }
     }
