@@ -270,6 +270,11 @@ private Q_SLOTS:
         QTest::newRow("addition's event") << "TriggerStopConditionEvent" << Node() << false << addition;
         QTest::newRow("deletion's event") << "TriggerStopConditionEvent" << Node() << false << deletion;
         QTest::newRow("source's event") << "triggerSource" << Node() << false << Step([this] { press(kSource, {Qt::Key_Down}); });
+        QTest::newRow("list beside the focus") << kUserSet << Node() << true << Step([this] {
+            press(kSource, {});
+            row(m_panel, kMode)->findChild<QComboBox *>()->showPopup();
+            tell(kUserSet);
+        });
         for (const QString &event : {kUserSet, "triggerSource"_s, "udpCMDFormatEvent"_s, kGrab}) {
             for (const bool direct : {false, true}) {
                 QTest::addRow("%s of the host, %d", qPrintable(event), direct) << event << Node() << direct << Step([=] { tell(event); });

@@ -29,6 +29,10 @@ VyScrollArea::VyScrollArea(QWidget *parent)
     });
 }
 
-VyScrollArea::~VyScrollArea() = default;
+VyScrollArea::~VyScrollArea()
+{
+    // The contents that now go hand on the focus, while this is not an area any more.
+    QObject::disconnect(qApp, nullptr, this, nullptr);
+}
 
 } // namespace VyViewer
