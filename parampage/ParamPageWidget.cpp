@@ -59,6 +59,9 @@ void ParamPageWidget::updateWidget()
         }
     }
     m_layout->setEnabled(true);
+    if (m_layout->geometry() != rect()) {
+        m_layout->invalidate(); // a call let events in, and the page was resized
+    }
     // Laid out now, before the paint that is already asked for. Later it would be a second paint.
     for (QWidget *widget = this; widget && widget->layout() && widget->layout()->activate();) {
         widget = widget->parentWidget();

@@ -151,8 +151,14 @@ void PanelModel::mayDelete(int number)
 QStringList PanelModel::check()
 {
     decide();
+    const ParamPageWidgetItem *above = nullptr;
     for (const ParamPageWidgetItem *row : qAsConst(m_rows)) {
         checkRow(row);
+        if (row->isVisible()) {
+            const bool isBelow = !above || above->parent() != row->parent() || above->geometry().bottom() < row->y();
+            expect(isBelow, "%1 lies on the row above"_s.arg(row->objectName()));
+            above = row;
+        }
     }
     for (const QString &node : qAsConst(m_required)) {
         expect(m_written.contains(node), "the finished edit of %1 was not written"_s.arg(node));

@@ -617,6 +617,24 @@ private Q_SLOTS:
         QVERIFY(m_device.writes().isEmpty());
     }
 
+    /// Within a refresh, too, which lays out once at its end, the page is given another size.
+    void rowsStandBelowEachOtherWhateverACallLetsIn()
+    {
+        show(); // nothing below: the block that is opened begins in too little room
+        auto *const bar = find<VyBlockWidget>()->findChildren<QAbstractButton *>().first();
+        bar->click();
+        QTRY_VERIFY(m_panel->findChild<QWidget *>("scrollAreaWidgetContents"_s)->height() < 700);
+        m_device.onCall = [](const QString &) { QCoreApplication::processEvents(); };
+        bar->click();
+        m_device.onCall = nullptr;
+        QCoreApplication::processEvents();
+        int end = -1;
+        for (const auto *row : find<TriggerConfigWdgImpl>()->findChildren<ParamPageWidgetItem *>()) {
+            QVERIFY2(row->y() > end, qPrintable(row->objectName()));
+            end = row->geometry().bottom();
+        }
+    }
+
     /// In a low window, from the host's editor before the panel to the one behind it, and back.
     void tabVisitsTheEditorsFromTopToBottom()
     {
