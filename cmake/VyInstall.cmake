@@ -47,7 +47,7 @@ if(VYTRIGGER_VIEWER)
   install(FILES viewer/vyviewer.desktop DESTINATION ${CMAKE_INSTALL_DATADIR}/applications COMPONENT viewer)
   set(icons ${CMAKE_INSTALL_DATADIR}/icons/hicolor)
   install(FILES viewer/icons/vyviewer.svg DESTINATION ${icons}/scalable/apps COMPONENT viewer)
-  foreach(size 16 32 48 256)
+  foreach(size 16 32 48 128)
     install(FILES viewer/icons/vyviewer-${size}.png RENAME vyviewer.png
       DESTINATION ${icons}/${size}x${size}/apps COMPONENT viewer)
   endforeach()

@@ -105,7 +105,7 @@ QString prepare(const MainWindow &window, const Options &options)
 QIcon icon()
 {
     QIcon icon;
-    for (const int size : {16, 32, 48, 256}) {
+    for (const int size : {16, 32, 48, 128}) {
         icon.addFile(QStringLiteral(":/vyviewer/icons/vyviewer-%1.png").arg(size));
     }
     return icon;
