@@ -823,6 +823,12 @@ private Q_SLOTS:
             QAccessibleActionInterface::pressAction());
         QTRY_COMPARE(m_device.writes(), QStringList("run InputSoftwareTrigger"_s));
 
+        // Not in the host's own editors.
+        QSpinBox foreign;
+        const QSignalSpy edits(&foreign, &QSpinBox::editingFinished);
+        set(9)(accessible(&foreign));
+        QVERIFY(foreign.value() == 9 && edits.isEmpty());
+
         // In an open list, too.
         QAccessibleInterface *const mode = accessible(row(m_panel.get(), "InputTriggerMode"_s));
         mode->actionInterface()->doAction(QAccessibleActionInterface::showMenuAction());

@@ -16,19 +16,13 @@ constexpr int kMargin = 4;
 constexpr int kRadius = 3;
 constexpr int kShortestTitle = 6; // characters
 
-QAccessibleInterface *createAccessible(const QString &, QObject *object)
-{
-    auto *const bar = qobject_cast<BlockTitleBar *>(object);
-    return bar ? new BlockTitleAccessible(bar) : nullptr;
-}
-
 } // namespace
 
 BlockTitleBar::BlockTitleBar(QWidget *parent)
     : KitButton(parent)
     , m_addButton(new GlyphButton(GlyphButton::Glyph::Plus, this))
 {
-    static const AccessibleFactory factory(createAccessible);
+    static const AccessibleFactory<BlockTitleBar, BlockTitleAccessible> factory;
     QFont bold;
     bold.setBold(true);
     setFont(bold);

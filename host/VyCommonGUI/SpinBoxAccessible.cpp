@@ -5,12 +5,6 @@
 
 namespace VyViewer {
 
-QAccessibleInterface *SpinBoxAccessible::create(const QString &, QObject *object)
-{
-    auto *const box = qobject_cast<QAbstractSpinBox *>(object);
-    return box ? new SpinBoxAccessible(box) : nullptr;
-}
-
 SpinBoxAccessible::SpinBoxAccessible(QAbstractSpinBox *box)
     : QAccessibleWidget(box, QAccessible::SpinBox)
 {}

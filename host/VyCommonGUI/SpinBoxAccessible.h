@@ -11,9 +11,6 @@ namespace VyViewer {
 class SpinBoxAccessible : public QAccessibleWidget, public QAccessibleValueInterface
 {
 public:
-    /// Makes one for whatever is a spin box.
-    static QAccessibleInterface *create(const QString &, QObject *object);
-
     explicit SpinBoxAccessible(QAbstractSpinBox *box);
 
     void *interface_cast(QAccessible::InterfaceType type) override;

@@ -20,12 +20,6 @@ constexpr int kShortestContents = 8; // characters
 constexpr int kLongestMeasured = 40; // characters of an entry that may set the preferred width
 constexpr int kLongestShown = 1000;  // characters of the current entry: with a million a paint takes long
 
-QAccessibleInterface *createAccessible(const QString &, QObject *object)
-{
-    auto *const box = qobject_cast<VyComboBox *>(object);
-    return box ? new ComboBoxAccessible(box) : nullptr;
-}
-
 } // namespace
 
 /// Paints combo boxes in place of their own paint event, and tells the whole of an entry that is cut.
@@ -46,7 +40,7 @@ public:
 VyComboBox::VyComboBox(QWidget *parent)
     : QComboBox(parent)
 {
-    static const AccessibleFactory factory(createAccessible);
+    static const AccessibleFactory<VyComboBox, ComboBoxAccessible> factory;
     static ClosedBox painter; // one for all boxes
     installEventFilter(&painter);
     WheelGuard::guard(this, WheelGuard::Pass::Never);

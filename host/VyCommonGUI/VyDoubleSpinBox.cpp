@@ -44,7 +44,7 @@ int neededDecimals(double value, int most)
 VyDoubleSpinBox::VyDoubleSpinBox(QWidget *parent)
     : QDoubleSpinBox(parent)
 {
-    static const AccessibleFactory factory(SpinBoxAccessible::create); // before anything is announced
+    static const AccessibleFactory<VyDoubleSpinBox, SpinBoxAccessible> factory; // before anything is announced
     setDecimals(kFewestDecimals);
     setMinimumWidth(KitPaint::kNarrowestEditor);
     WheelGuard::guard(this, WheelGuard::Pass::WhenFocused);

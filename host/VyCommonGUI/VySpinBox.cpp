@@ -11,7 +11,7 @@ namespace VyViewer {
 VySpinBox::VySpinBox(QWidget *parent)
     : QSpinBox(parent)
 {
-    static const AccessibleFactory factory(SpinBoxAccessible::create);
+    static const AccessibleFactory<VySpinBox, SpinBoxAccessible> factory;
     setMinimumWidth(KitPaint::kNarrowestEditor);
     WheelGuard::guard(this, WheelGuard::Pass::WhenFocused);
 }

@@ -17,18 +17,12 @@ namespace {
 
 constexpr int kMargin = 3; // around the track, for the focus ring
 
-QAccessibleInterface *createAccessible(const QString &, QObject *object)
-{
-    auto *const toggle = qobject_cast<VyToggleSwitch *>(object);
-    return toggle ? new ToggleSwitchAccessible(toggle) : nullptr;
-}
-
 } // namespace
 
 VyToggleSwitch::VyToggleSwitch(QWidget *parent)
     : QWidget(parent)
 {
-    static const AccessibleFactory factory(createAccessible);
+    static const AccessibleFactory<VyToggleSwitch, ToggleSwitchAccessible> factory;
     setFocusPolicy(Qt::StrongFocus);
     setAttribute(Qt::WA_Hover);
     setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Preferred);
