@@ -12,6 +12,11 @@ const QString &folder()
     return inTheLibrary;
 }
 
+bool load(QTranslator &texts, const QLocale &locale)
+{
+    return texts.load(locale, QStringLiteral("trigger"), QStringLiteral("_"), folder());
+}
+
 } // namespace
 
 QStringList Language::codes()
@@ -30,9 +35,7 @@ QString Language::name(const QString &code)
     //: The name of the language of this file, in that language.
     const char *const name = QT_TRANSLATE_NOOP("Language", "English");
     QTranslator texts;
-    return texts.load(QLocale(code), QStringLiteral("trigger"), QStringLiteral("_"), folder())
-        ? texts.translate("Language", name)
-        : QString::fromLatin1(name);
+    return load(texts, QLocale(code)) ? texts.translate("Language", name) : QString::fromLatin1(name);
 }
 
 Language::~Language() = default;
@@ -43,7 +46,7 @@ void Language::speak(const QLocale &locale)
     QCoreApplication::removeTranslator(&m_qtTexts);
     // The sources are in English: a file of that name there is not.
     const bool isEnglish = locale.language() == QLocale::English;
-    if (isEnglish || !m_texts.load(locale, QStringLiteral("trigger"), QStringLiteral("_"), folder())) {
+    if (isEnglish || !load(m_texts, locale)) {
         m_texts.load(QString());
         return;
     }
